@@ -1,0 +1,10 @@
+# Writes the linker's version script: the functions that the public headers declare, and nothing else.
+set(script "{\n  global:\n")
+foreach(header IN LISTS HEADERS)
+  file(STRINGS ${header} lines REGEX "^[A-Za-z].* \\*?kvri[A-Za-z0-9_]+\\(|^[A-Za-z].*\\* kvri[A-Za-z0-9_]+\\(")
+  foreach(line IN LISTS lines)
+    string(REGEX REPLACE "^[^(]*(kvri[A-Za-z0-9_]+)\\(.*" "\\1" name "${line}")
+    string(APPEND script "    ${name};\n")
+  endforeach()
+endforeach()
+file(WRITE ${OUTPUT} "${script}  local:\n    *;\n};\n")

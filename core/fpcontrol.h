@@ -1,0 +1,25 @@
+// core/fpcontrol.h: the processor's floating-point control for the duration of a call.
+#pragma once
+
+#include <immintrin.h>
+
+namespace kvri {
+
+// Rounding to nearest, no exceptions, denormal numbers as they are - and then again what the caller had.
+class DefaultFloatControl {
+    static constexpr unsigned control = 0xFFC0, defaults = 0x1F80;  // the sticky flags below stay
+    unsigned before_ = _mm_getcsr();
+
+    bool differs() const { return (before_ & control) != defaults; }
+
+public:
+    DefaultFloatControl() {
+        if (differs()) _mm_setcsr((before_ & ~control) | defaults);
+    }
+    DefaultFloatControl(const DefaultFloatControl&) = delete;
+    ~DefaultFloatControl() {
+        if (differs()) _mm_setcsr(before_);
+    }
+};
+
+}  // namespace kvri

@@ -1,0 +1,20 @@
+// examples/steps.h: the pictures that the demo makes of a photograph.
+#pragma once
+
+#include <span>
+
+#include "bench.h"
+#include "image.h"
+
+namespace demo {
+
+struct Step {
+    const char* name;  // of the file
+    const char* caption;
+    const char* functions;
+    AnyImage (*make)(const Rgb& photo, Bench& bench);
+};
+
+std::span<const Step> steps();
+
+}  // namespace demo

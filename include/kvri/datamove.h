@@ -1,0 +1,302 @@
+/* kvri/datamove.h - functions that create, move and fill images without changing sample values. */
+#ifndef KVRI_DATAMOVE_H
+#define KVRI_DATAMOVE_H
+
+#include "kvri/types.h"
+
+#ifdef __cplusplus
+extern "C" {
+#endif
+#pragma GCC visibility push(default)
+
+/* Malloc - a new image of width x height pixels, contents undefined, to be released by kvriFree.
+ * Writes the step, the row's bytes rounded up to a multiple of 64, through pStepBytes and returns the first pixel, at an
+ * address that is a multiple of 64. AC4 takes the room of C4.
+ * Returns null without writing where pStepBytes is null, null and a step of 0 where a size is below 1, and null with the
+ * step written where memory lacks. step * height is formed in 32 bits and wraps from 4 GiB on: stay below. */
+Kvr8u* kvriMalloc_8u_C1(int width, int height, int* pStepBytes);
+Kvr8u* kvriMalloc_8u_C2(int width, int height, int* pStepBytes);
+Kvr8u* kvriMalloc_8u_C3(int width, int height, int* pStepBytes);
+Kvr8u* kvriMalloc_8u_C4(int width, int height, int* pStepBytes);
+Kvr8u* kvriMalloc_8u_AC4(int width, int height, int* pStepBytes);
+Kvr16u* kvriMalloc_16u_C1(int width, int height, int* pStepBytes);
+Kvr16u* kvriMalloc_16u_C2(int width, int height, int* pStepBytes);
+Kvr16u* kvriMalloc_16u_C3(int width, int height, int* pStepBytes);
+Kvr16u* kvriMalloc_16u_C4(int width, int height, int* pStepBytes);
+Kvr16u* kvriMalloc_16u_AC4(int width, int height, int* pStepBytes);
+Kvr16s* kvriMalloc_16s_C1(int width, int height, int* pStepBytes);
+Kvr16s* kvriMalloc_16s_C2(int width, int height, int* pStepBytes);
+Kvr16s* kvriMalloc_16s_C3(int width, int height, int* pStepBytes);
+Kvr16s* kvriMalloc_16s_C4(int width, int height, int* pStepBytes);
+Kvr16s* kvriMalloc_16s_AC4(int width, int height, int* pStepBytes);
+Kvr32s* kvriMalloc_32s_C1(int width, int height, int* pStepBytes);
+Kvr32s* kvriMalloc_32s_C2(int width, int height, int* pStepBytes);
+Kvr32s* kvriMalloc_32s_C3(int width, int height, int* pStepBytes);
+Kvr32s* kvriMalloc_32s_C4(int width, int height, int* pStepBytes);
+Kvr32s* kvriMalloc_32s_AC4(int width, int height, int* pStepBytes);
+Kvr32f* kvriMalloc_32f_C1(int width, int height, int* pStepBytes);
+Kvr32f* kvriMalloc_32f_C2(int width, int height, int* pStepBytes);
+Kvr32f* kvriMalloc_32f_C3(int width, int height, int* pStepBytes);
+Kvr32f* kvriMalloc_32f_C4(int width, int height, int* pStepBytes);
+Kvr32f* kvriMalloc_32f_AC4(int width, int height, int* pStepBytes);
+Kvr32sc* kvriMalloc_32sc_C1(int width, int height, int* pStepBytes);
+Kvr32sc* kvriMalloc_32sc_C2(int width, int height, int* pStepBytes);
+Kvr32sc* kvriMalloc_32sc_C3(int width, int height, int* pStepBytes);
+Kvr32sc* kvriMalloc_32sc_C4(int width, int height, int* pStepBytes);
+Kvr32sc* kvriMalloc_32sc_AC4(int width, int height, int* pStepBytes);
+Kvr32fc* kvriMalloc_32fc_C1(int width, int height, int* pStepBytes);
+Kvr32fc* kvriMalloc_32fc_C2(int width, int height, int* pStepBytes);
+Kvr32fc* kvriMalloc_32fc_C3(int width, int height, int* pStepBytes);
+Kvr32fc* kvriMalloc_32fc_C4(int width, int height, int* pStepBytes);
+Kvr32fc* kvriMalloc_32fc_AC4(int width, int height, int* pStepBytes);
+
+/* Free - releases an image of kvriMalloc. Null is accepted. */
+void kvriFree(void* ptr);
+
+/* Copy, same layout - every sample of the ROI; AC4 leaves the destination's fourth channel as it is.
+ * Pixel by pixel. Source and destination may not overlap.
+ * Errors, in this order: null pointer -8, width or height below 1 -6. Any step is accepted, zero and negative ones too. */
+KvrStatus kvriCopy_8u_C1R(const Kvr8u* pSrc, int srcStep, Kvr8u* pDst, int dstStep, KvriSize roiSize);
+KvrStatus kvriCopy_8u_C3R(const Kvr8u* pSrc, int srcStep, Kvr8u* pDst, int dstStep, KvriSize roiSize);
+KvrStatus kvriCopy_8u_C4R(const Kvr8u* pSrc, int srcStep, Kvr8u* pDst, int dstStep, KvriSize roiSize);
+KvrStatus kvriCopy_8u_AC4R(const Kvr8u* pSrc, int srcStep, Kvr8u* pDst, int dstStep, KvriSize roiSize);
+KvrStatus kvriCopy_16u_C1R(const Kvr16u* pSrc, int srcStep, Kvr16u* pDst, int dstStep, KvriSize roiSize);
+KvrStatus kvriCopy_16u_C3R(const Kvr16u* pSrc, int srcStep, Kvr16u* pDst, int dstStep, KvriSize roiSize);
+KvrStatus kvriCopy_16u_C4R(const Kvr16u* pSrc, int srcStep, Kvr16u* pDst, int dstStep, KvriSize roiSize);
+KvrStatus kvriCopy_16u_AC4R(const Kvr16u* pSrc, int srcStep, Kvr16u* pDst, int dstStep, KvriSize roiSize);
+KvrStatus kvriCopy_16s_C1R(const Kvr16s* pSrc, int srcStep, Kvr16s* pDst, int dstStep, KvriSize roiSize);
+KvrStatus kvriCopy_16s_C3R(const Kvr16s* pSrc, int srcStep, Kvr16s* pDst, int dstStep, KvriSize roiSize);
+KvrStatus kvriCopy_16s_C4R(const Kvr16s* pSrc, int srcStep, Kvr16s* pDst, int dstStep, KvriSize roiSize);
+KvrStatus kvriCopy_16s_AC4R(const Kvr16s* pSrc, int srcStep, Kvr16s* pDst, int dstStep, KvriSize roiSize);
+KvrStatus kvriCopy_32s_C1R(const Kvr32s* pSrc, int srcStep, Kvr32s* pDst, int dstStep, KvriSize roiSize);
+KvrStatus kvriCopy_32s_C3R(const Kvr32s* pSrc, int srcStep, Kvr32s* pDst, int dstStep, KvriSize roiSize);
+KvrStatus kvriCopy_32s_C4R(const Kvr32s* pSrc, int srcStep, Kvr32s* pDst, int dstStep, KvriSize roiSize);
+KvrStatus kvriCopy_32s_AC4R(const Kvr32s* pSrc, int srcStep, Kvr32s* pDst, int dstStep, KvriSize roiSize);
+KvrStatus kvriCopy_32f_C1R(const Kvr32f* pSrc, int srcStep, Kvr32f* pDst, int dstStep, KvriSize roiSize);
+KvrStatus kvriCopy_32f_C3R(const Kvr32f* pSrc, int srcStep, Kvr32f* pDst, int dstStep, KvriSize roiSize);
+KvrStatus kvriCopy_32f_C4R(const Kvr32f* pSrc, int srcStep, Kvr32f* pDst, int dstStep, KvriSize roiSize);
+KvrStatus kvriCopy_32f_AC4R(const Kvr32f* pSrc, int srcStep, Kvr32f* pDst, int dstStep, KvriSize roiSize);
+
+/* Copy, masked - pixels whose mask sample is not zero; the others keep their value, and so does the alpha of AC4.
+ * The mask has one 8u sample per pixel of the ROI.
+ * Errors as for the plain copies, the mask among the pointers. */
+KvrStatus kvriCopy_8u_C1MR(const Kvr8u* pSrc, int srcStep, Kvr8u* pDst, int dstStep, KvriSize roiSize, const Kvr8u* pMask, int maskStep);
+KvrStatus kvriCopy_8u_C3MR(const Kvr8u* pSrc, int srcStep, Kvr8u* pDst, int dstStep, KvriSize roiSize, const Kvr8u* pMask, int maskStep);
+KvrStatus kvriCopy_8u_C4MR(const Kvr8u* pSrc, int srcStep, Kvr8u* pDst, int dstStep, KvriSize roiSize, const Kvr8u* pMask, int maskStep);
+KvrStatus kvriCopy_8u_AC4MR(const Kvr8u* pSrc, int srcStep, Kvr8u* pDst, int dstStep, KvriSize roiSize, const Kvr8u* pMask, int maskStep);
+KvrStatus kvriCopy_16u_C1MR(const Kvr16u* pSrc, int srcStep, Kvr16u* pDst, int dstStep, KvriSize roiSize, const Kvr8u* pMask, int maskStep);
+KvrStatus kvriCopy_16u_C3MR(const Kvr16u* pSrc, int srcStep, Kvr16u* pDst, int dstStep, KvriSize roiSize, const Kvr8u* pMask, int maskStep);
+KvrStatus kvriCopy_16u_C4MR(const Kvr16u* pSrc, int srcStep, Kvr16u* pDst, int dstStep, KvriSize roiSize, const Kvr8u* pMask, int maskStep);
+KvrStatus kvriCopy_16u_AC4MR(const Kvr16u* pSrc, int srcStep, Kvr16u* pDst, int dstStep, KvriSize roiSize, const Kvr8u* pMask, int maskStep);
+KvrStatus kvriCopy_16s_C1MR(const Kvr16s* pSrc, int srcStep, Kvr16s* pDst, int dstStep, KvriSize roiSize, const Kvr8u* pMask, int maskStep);
+KvrStatus kvriCopy_16s_C3MR(const Kvr16s* pSrc, int srcStep, Kvr16s* pDst, int dstStep, KvriSize roiSize, const Kvr8u* pMask, int maskStep);
+KvrStatus kvriCopy_16s_C4MR(const Kvr16s* pSrc, int srcStep, Kvr16s* pDst, int dstStep, KvriSize roiSize, const Kvr8u* pMask, int maskStep);
+KvrStatus kvriCopy_16s_AC4MR(const Kvr16s* pSrc, int srcStep, Kvr16s* pDst, int dstStep, KvriSize roiSize, const Kvr8u* pMask, int maskStep);
+KvrStatus kvriCopy_32s_C1MR(const Kvr32s* pSrc, int srcStep, Kvr32s* pDst, int dstStep, KvriSize roiSize, const Kvr8u* pMask, int maskStep);
+KvrStatus kvriCopy_32s_C3MR(const Kvr32s* pSrc, int srcStep, Kvr32s* pDst, int dstStep, KvriSize roiSize, const Kvr8u* pMask, int maskStep);
+KvrStatus kvriCopy_32s_C4MR(const Kvr32s* pSrc, int srcStep, Kvr32s* pDst, int dstStep, KvriSize roiSize, const Kvr8u* pMask, int maskStep);
+KvrStatus kvriCopy_32s_AC4MR(const Kvr32s* pSrc, int srcStep, Kvr32s* pDst, int dstStep, KvriSize roiSize, const Kvr8u* pMask, int maskStep);
+KvrStatus kvriCopy_32f_C1MR(const Kvr32f* pSrc, int srcStep, Kvr32f* pDst, int dstStep, KvriSize roiSize, const Kvr8u* pMask, int maskStep);
+KvrStatus kvriCopy_32f_C3MR(const Kvr32f* pSrc, int srcStep, Kvr32f* pDst, int dstStep, KvriSize roiSize, const Kvr8u* pMask, int maskStep);
+KvrStatus kvriCopy_32f_C4MR(const Kvr32f* pSrc, int srcStep, Kvr32f* pDst, int dstStep, KvriSize roiSize, const Kvr8u* pMask, int maskStep);
+KvrStatus kvriCopy_32f_AC4MR(const Kvr32f* pSrc, int srcStep, Kvr32f* pDst, int dstStep, KvriSize roiSize, const Kvr8u* pMask, int maskStep);
+
+/* Copy, one channel out - pSrc addresses the wanted channel of the first pixel. Samples of that channel alone are owned:
+ * nothing before the first or behind the last of them is read.
+ * Errors as for the plain copies. */
+KvrStatus kvriCopy_8u_C3C1R(const Kvr8u* pSrc, int srcStep, Kvr8u* pDst, int dstStep, KvriSize roiSize);
+KvrStatus kvriCopy_8u_C4C1R(const Kvr8u* pSrc, int srcStep, Kvr8u* pDst, int dstStep, KvriSize roiSize);
+KvrStatus kvriCopy_16u_C3C1R(const Kvr16u* pSrc, int srcStep, Kvr16u* pDst, int dstStep, KvriSize roiSize);
+KvrStatus kvriCopy_16u_C4C1R(const Kvr16u* pSrc, int srcStep, Kvr16u* pDst, int dstStep, KvriSize roiSize);
+KvrStatus kvriCopy_16s_C3C1R(const Kvr16s* pSrc, int srcStep, Kvr16s* pDst, int dstStep, KvriSize roiSize);
+KvrStatus kvriCopy_16s_C4C1R(const Kvr16s* pSrc, int srcStep, Kvr16s* pDst, int dstStep, KvriSize roiSize);
+KvrStatus kvriCopy_32s_C3C1R(const Kvr32s* pSrc, int srcStep, Kvr32s* pDst, int dstStep, KvriSize roiSize);
+KvrStatus kvriCopy_32s_C4C1R(const Kvr32s* pSrc, int srcStep, Kvr32s* pDst, int dstStep, KvriSize roiSize);
+KvrStatus kvriCopy_32f_C3C1R(const Kvr32f* pSrc, int srcStep, Kvr32f* pDst, int dstStep, KvriSize roiSize);
+KvrStatus kvriCopy_32f_C4C1R(const Kvr32f* pSrc, int srcStep, Kvr32f* pDst, int dstStep, KvriSize roiSize);
+
+/* Copy, one channel in - pDst addresses the channel to write; the other channels keep their values. The bytes between the
+ * first and the last written sample are rewritten unchanged, so no other thread may write them at the same time.
+ * Nothing before the first or behind the last sample is touched.
+ * Errors as for the plain copies. */
+KvrStatus kvriCopy_8u_C1C3R(const Kvr8u* pSrc, int srcStep, Kvr8u* pDst, int dstStep, KvriSize roiSize);
+KvrStatus kvriCopy_8u_C1C4R(const Kvr8u* pSrc, int srcStep, Kvr8u* pDst, int dstStep, KvriSize roiSize);
+KvrStatus kvriCopy_16u_C1C3R(const Kvr16u* pSrc, int srcStep, Kvr16u* pDst, int dstStep, KvriSize roiSize);
+KvrStatus kvriCopy_16u_C1C4R(const Kvr16u* pSrc, int srcStep, Kvr16u* pDst, int dstStep, KvriSize roiSize);
+KvrStatus kvriCopy_16s_C1C3R(const Kvr16s* pSrc, int srcStep, Kvr16s* pDst, int dstStep, KvriSize roiSize);
+KvrStatus kvriCopy_16s_C1C4R(const Kvr16s* pSrc, int srcStep, Kvr16s* pDst, int dstStep, KvriSize roiSize);
+KvrStatus kvriCopy_32s_C1C3R(const Kvr32s* pSrc, int srcStep, Kvr32s* pDst, int dstStep, KvriSize roiSize);
+KvrStatus kvriCopy_32s_C1C4R(const Kvr32s* pSrc, int srcStep, Kvr32s* pDst, int dstStep, KvriSize roiSize);
+KvrStatus kvriCopy_32f_C1C3R(const Kvr32f* pSrc, int srcStep, Kvr32f* pDst, int dstStep, KvriSize roiSize);
+KvrStatus kvriCopy_32f_C1C4R(const Kvr32f* pSrc, int srcStep, Kvr32f* pDst, int dstStep, KvriSize roiSize);
+
+/* Copy, one channel to one channel - both pointers address the chosen channel, which need not be the same.
+ * Memory rules as for one channel out and one channel in.
+ * Errors as for the plain copies. */
+KvrStatus kvriCopy_8u_C3CR(const Kvr8u* pSrc, int srcStep, Kvr8u* pDst, int dstStep, KvriSize roiSize);
+KvrStatus kvriCopy_8u_C4CR(const Kvr8u* pSrc, int srcStep, Kvr8u* pDst, int dstStep, KvriSize roiSize);
+KvrStatus kvriCopy_16u_C3CR(const Kvr16u* pSrc, int srcStep, Kvr16u* pDst, int dstStep, KvriSize roiSize);
+KvrStatus kvriCopy_16u_C4CR(const Kvr16u* pSrc, int srcStep, Kvr16u* pDst, int dstStep, KvriSize roiSize);
+KvrStatus kvriCopy_16s_C3CR(const Kvr16s* pSrc, int srcStep, Kvr16s* pDst, int dstStep, KvriSize roiSize);
+KvrStatus kvriCopy_16s_C4CR(const Kvr16s* pSrc, int srcStep, Kvr16s* pDst, int dstStep, KvriSize roiSize);
+KvrStatus kvriCopy_32s_C3CR(const Kvr32s* pSrc, int srcStep, Kvr32s* pDst, int dstStep, KvriSize roiSize);
+KvrStatus kvriCopy_32s_C4CR(const Kvr32s* pSrc, int srcStep, Kvr32s* pDst, int dstStep, KvriSize roiSize);
+KvrStatus kvriCopy_32f_C3CR(const Kvr32f* pSrc, int srcStep, Kvr32f* pDst, int dstStep, KvriSize roiSize);
+KvrStatus kvriCopy_32f_C4CR(const Kvr32f* pSrc, int srcStep, Kvr32f* pDst, int dstStep, KvriSize roiSize);
+
+/* Copy, without or beside alpha - AC4C3 drops the fourth channel; C3AC4 writes three channels and keeps the fourth.
+ * Errors as for the plain copies. */
+KvrStatus kvriCopy_8u_AC4C3R(const Kvr8u* pSrc, int srcStep, Kvr8u* pDst, int dstStep, KvriSize roiSize);
+KvrStatus kvriCopy_8u_C3AC4R(const Kvr8u* pSrc, int srcStep, Kvr8u* pDst, int dstStep, KvriSize roiSize);
+KvrStatus kvriCopy_16u_AC4C3R(const Kvr16u* pSrc, int srcStep, Kvr16u* pDst, int dstStep, KvriSize roiSize);
+KvrStatus kvriCopy_16u_C3AC4R(const Kvr16u* pSrc, int srcStep, Kvr16u* pDst, int dstStep, KvriSize roiSize);
+KvrStatus kvriCopy_16s_AC4C3R(const Kvr16s* pSrc, int srcStep, Kvr16s* pDst, int dstStep, KvriSize roiSize);
+KvrStatus kvriCopy_16s_C3AC4R(const Kvr16s* pSrc, int srcStep, Kvr16s* pDst, int dstStep, KvriSize roiSize);
+KvrStatus kvriCopy_32s_AC4C3R(const Kvr32s* pSrc, int srcStep, Kvr32s* pDst, int dstStep, KvriSize roiSize);
+KvrStatus kvriCopy_32s_C3AC4R(const Kvr32s* pSrc, int srcStep, Kvr32s* pDst, int dstStep, KvriSize roiSize);
+KvrStatus kvriCopy_32f_AC4C3R(const Kvr32f* pSrc, int srcStep, Kvr32f* pDst, int dstStep, KvriSize roiSize);
+KvrStatus kvriCopy_32f_C3AC4R(const Kvr32f* pSrc, int srcStep, Kvr32f* pDst, int dstStep, KvriSize roiSize);
+
+/* Copy, packed to planar and back - the planes share one step; every plane pointer must be given.
+ * Errors as for the plain copies, each plane among the pointers. */
+KvrStatus kvriCopy_8u_C3P3R(const Kvr8u* pSrc, int srcStep, Kvr8u* const pDst[3], int dstStep, KvriSize roiSize);
+KvrStatus kvriCopy_8u_P3C3R(const Kvr8u* const pSrc[3], int srcStep, Kvr8u* pDst, int dstStep, KvriSize roiSize);
+KvrStatus kvriCopy_8u_C4P4R(const Kvr8u* pSrc, int srcStep, Kvr8u* const pDst[4], int dstStep, KvriSize roiSize);
+KvrStatus kvriCopy_8u_P4C4R(const Kvr8u* const pSrc[4], int srcStep, Kvr8u* pDst, int dstStep, KvriSize roiSize);
+KvrStatus kvriCopy_16u_C3P3R(const Kvr16u* pSrc, int srcStep, Kvr16u* const pDst[3], int dstStep, KvriSize roiSize);
+KvrStatus kvriCopy_16u_P3C3R(const Kvr16u* const pSrc[3], int srcStep, Kvr16u* pDst, int dstStep, KvriSize roiSize);
+KvrStatus kvriCopy_16u_C4P4R(const Kvr16u* pSrc, int srcStep, Kvr16u* const pDst[4], int dstStep, KvriSize roiSize);
+KvrStatus kvriCopy_16u_P4C4R(const Kvr16u* const pSrc[4], int srcStep, Kvr16u* pDst, int dstStep, KvriSize roiSize);
+KvrStatus kvriCopy_16s_C3P3R(const Kvr16s* pSrc, int srcStep, Kvr16s* const pDst[3], int dstStep, KvriSize roiSize);
+KvrStatus kvriCopy_16s_P3C3R(const Kvr16s* const pSrc[3], int srcStep, Kvr16s* pDst, int dstStep, KvriSize roiSize);
+KvrStatus kvriCopy_16s_C4P4R(const Kvr16s* pSrc, int srcStep, Kvr16s* const pDst[4], int dstStep, KvriSize roiSize);
+KvrStatus kvriCopy_16s_P4C4R(const Kvr16s* const pSrc[4], int srcStep, Kvr16s* pDst, int dstStep, KvriSize roiSize);
+KvrStatus kvriCopy_32s_C3P3R(const Kvr32s* pSrc, int srcStep, Kvr32s* const pDst[3], int dstStep, KvriSize roiSize);
+KvrStatus kvriCopy_32s_P3C3R(const Kvr32s* const pSrc[3], int srcStep, Kvr32s* pDst, int dstStep, KvriSize roiSize);
+KvrStatus kvriCopy_32s_C4P4R(const Kvr32s* pSrc, int srcStep, Kvr32s* const pDst[4], int dstStep, KvriSize roiSize);
+KvrStatus kvriCopy_32s_P4C4R(const Kvr32s* const pSrc[4], int srcStep, Kvr32s* pDst, int dstStep, KvriSize roiSize);
+KvrStatus kvriCopy_32f_C3P3R(const Kvr32f* pSrc, int srcStep, Kvr32f* const pDst[3], int dstStep, KvriSize roiSize);
+KvrStatus kvriCopy_32f_P3C3R(const Kvr32f* const pSrc[3], int srcStep, Kvr32f* pDst, int dstStep, KvriSize roiSize);
+KvrStatus kvriCopy_32f_C4P4R(const Kvr32f* pSrc, int srcStep, Kvr32f* const pDst[4], int dstStep, KvriSize roiSize);
+KvrStatus kvriCopy_32f_P4C4R(const Kvr32f* const pSrc[4], int srcStep, Kvr32f* pDst, int dstStep, KvriSize roiSize);
+
+/* Flags of kvriCopyManaged: bit 0 chooses the stores, the other bits have no effect. */
+enum {
+    kvrCopyTemporal    = 0, /* through the caches */
+    kvrCopyNonTemporal = 1  /* past the caches, ended by a store fence: for data that is not read again soon */
+};
+
+/* CopyManaged - a one-channel byte copy whose store policy the caller chooses.
+ * Errors as for the plain copies. */
+KvrStatus kvriCopyManaged_8u_C1R(const Kvr8u* pSrc, int srcStep, Kvr8u* pDst, int dstStep, KvriSize roiSize, int flags);
+
+/* Set - every pixel of the ROI. C1 takes the value itself, C3 and AC4 an array of three, C4 of four; AC4 leaves the
+ * destination's fourth channel as it is. The bits of every value are kept, those of a signalling NaN too.
+ * Errors, in this order: null pointer -8 (the array of values counts), width or height below 1 -6. Any step is accepted. */
+KvrStatus kvriSet_8u_C1R(Kvr8u value, Kvr8u* pDst, int dstStep, KvriSize roiSize);
+KvrStatus kvriSet_8u_C3R(const Kvr8u value[3], Kvr8u* pDst, int dstStep, KvriSize roiSize);
+KvrStatus kvriSet_8u_C4R(const Kvr8u value[4], Kvr8u* pDst, int dstStep, KvriSize roiSize);
+KvrStatus kvriSet_8u_AC4R(const Kvr8u value[3], Kvr8u* pDst, int dstStep, KvriSize roiSize);
+KvrStatus kvriSet_16u_C1R(Kvr16u value, Kvr16u* pDst, int dstStep, KvriSize roiSize);
+KvrStatus kvriSet_16u_C3R(const Kvr16u value[3], Kvr16u* pDst, int dstStep, KvriSize roiSize);
+KvrStatus kvriSet_16u_C4R(const Kvr16u value[4], Kvr16u* pDst, int dstStep, KvriSize roiSize);
+KvrStatus kvriSet_16u_AC4R(const Kvr16u value[3], Kvr16u* pDst, int dstStep, KvriSize roiSize);
+KvrStatus kvriSet_16s_C1R(Kvr16s value, Kvr16s* pDst, int dstStep, KvriSize roiSize);
+KvrStatus kvriSet_16s_C3R(const Kvr16s value[3], Kvr16s* pDst, int dstStep, KvriSize roiSize);
+KvrStatus kvriSet_16s_C4R(const Kvr16s value[4], Kvr16s* pDst, int dstStep, KvriSize roiSize);
+KvrStatus kvriSet_16s_AC4R(const Kvr16s value[3], Kvr16s* pDst, int dstStep, KvriSize roiSize);
+KvrStatus kvriSet_32s_C1R(Kvr32s value, Kvr32s* pDst, int dstStep, KvriSize roiSize);
+KvrStatus kvriSet_32s_C3R(const Kvr32s value[3], Kvr32s* pDst, int dstStep, KvriSize roiSize);
+KvrStatus kvriSet_32s_C4R(const Kvr32s value[4], Kvr32s* pDst, int dstStep, KvriSize roiSize);
+KvrStatus kvriSet_32s_AC4R(const Kvr32s value[3], Kvr32s* pDst, int dstStep, KvriSize roiSize);
+KvrStatus kvriSet_32f_C1R(Kvr32f value, Kvr32f* pDst, int dstStep, KvriSize roiSize);
+KvrStatus kvriSet_32f_C3R(const Kvr32f value[3], Kvr32f* pDst, int dstStep, KvriSize roiSize);
+KvrStatus kvriSet_32f_C4R(const Kvr32f value[4], Kvr32f* pDst, int dstStep, KvriSize roiSize);
+KvrStatus kvriSet_32f_AC4R(const Kvr32f value[3], Kvr32f* pDst, int dstStep, KvriSize roiSize);
+
+/* Set, masked - pixels whose mask sample (8u, one per pixel) is not zero; the others keep their value.
+ * Errors as for Set, the mask among the pointers. */
+KvrStatus kvriSet_8u_C1MR(Kvr8u value, Kvr8u* pDst, int dstStep, KvriSize roiSize, const Kvr8u* pMask, int maskStep);
+KvrStatus kvriSet_8u_C3MR(const Kvr8u value[3], Kvr8u* pDst, int dstStep, KvriSize roiSize, const Kvr8u* pMask, int maskStep);
+KvrStatus kvriSet_8u_C4MR(const Kvr8u value[4], Kvr8u* pDst, int dstStep, KvriSize roiSize, const Kvr8u* pMask, int maskStep);
+KvrStatus kvriSet_8u_AC4MR(const Kvr8u value[3], Kvr8u* pDst, int dstStep, KvriSize roiSize, const Kvr8u* pMask, int maskStep);
+KvrStatus kvriSet_16u_C1MR(Kvr16u value, Kvr16u* pDst, int dstStep, KvriSize roiSize, const Kvr8u* pMask, int maskStep);
+KvrStatus kvriSet_16u_C3MR(const Kvr16u value[3], Kvr16u* pDst, int dstStep, KvriSize roiSize, const Kvr8u* pMask, int maskStep);
+KvrStatus kvriSet_16u_C4MR(const Kvr16u value[4], Kvr16u* pDst, int dstStep, KvriSize roiSize, const Kvr8u* pMask, int maskStep);
+KvrStatus kvriSet_16u_AC4MR(const Kvr16u value[3], Kvr16u* pDst, int dstStep, KvriSize roiSize, const Kvr8u* pMask, int maskStep);
+KvrStatus kvriSet_16s_C1MR(Kvr16s value, Kvr16s* pDst, int dstStep, KvriSize roiSize, const Kvr8u* pMask, int maskStep);
+KvrStatus kvriSet_16s_C3MR(const Kvr16s value[3], Kvr16s* pDst, int dstStep, KvriSize roiSize, const Kvr8u* pMask, int maskStep);
+KvrStatus kvriSet_16s_C4MR(const Kvr16s value[4], Kvr16s* pDst, int dstStep, KvriSize roiSize, const Kvr8u* pMask, int maskStep);
+KvrStatus kvriSet_16s_AC4MR(const Kvr16s value[3], Kvr16s* pDst, int dstStep, KvriSize roiSize, const Kvr8u* pMask, int maskStep);
+KvrStatus kvriSet_32s_C1MR(Kvr32s value, Kvr32s* pDst, int dstStep, KvriSize roiSize, const Kvr8u* pMask, int maskStep);
+KvrStatus kvriSet_32s_C3MR(const Kvr32s value[3], Kvr32s* pDst, int dstStep, KvriSize roiSize, const Kvr8u* pMask, int maskStep);
+KvrStatus kvriSet_32s_C4MR(const Kvr32s value[4], Kvr32s* pDst, int dstStep, KvriSize roiSize, const Kvr8u* pMask, int maskStep);
+KvrStatus kvriSet_32s_AC4MR(const Kvr32s value[3], Kvr32s* pDst, int dstStep, KvriSize roiSize, const Kvr8u* pMask, int maskStep);
+KvrStatus kvriSet_32f_C1MR(Kvr32f value, Kvr32f* pDst, int dstStep, KvriSize roiSize, const Kvr8u* pMask, int maskStep);
+KvrStatus kvriSet_32f_C3MR(const Kvr32f value[3], Kvr32f* pDst, int dstStep, KvriSize roiSize, const Kvr8u* pMask, int maskStep);
+KvrStatus kvriSet_32f_C4MR(const Kvr32f value[4], Kvr32f* pDst, int dstStep, KvriSize roiSize, const Kvr8u* pMask, int maskStep);
+KvrStatus kvriSet_32f_AC4MR(const Kvr32f value[3], Kvr32f* pDst, int dstStep, KvriSize roiSize, const Kvr8u* pMask, int maskStep);
+
+/* Set, one channel - pDst addresses the channel to fill; memory rules as for Copy, one channel in.
+ * Errors as for Set. */
+KvrStatus kvriSet_8u_C3CR(Kvr8u value, Kvr8u* pDst, int dstStep, KvriSize roiSize);
+KvrStatus kvriSet_8u_C4CR(Kvr8u value, Kvr8u* pDst, int dstStep, KvriSize roiSize);
+KvrStatus kvriSet_16u_C3CR(Kvr16u value, Kvr16u* pDst, int dstStep, KvriSize roiSize);
+KvrStatus kvriSet_16u_C4CR(Kvr16u value, Kvr16u* pDst, int dstStep, KvriSize roiSize);
+KvrStatus kvriSet_16s_C3CR(Kvr16s value, Kvr16s* pDst, int dstStep, KvriSize roiSize);
+KvrStatus kvriSet_16s_C4CR(Kvr16s value, Kvr16s* pDst, int dstStep, KvriSize roiSize);
+KvrStatus kvriSet_32s_C3CR(Kvr32s value, Kvr32s* pDst, int dstStep, KvriSize roiSize);
+KvrStatus kvriSet_32s_C4CR(Kvr32s value, Kvr32s* pDst, int dstStep, KvriSize roiSize);
+KvrStatus kvriSet_32f_C3CR(Kvr32f value, Kvr32f* pDst, int dstStep, KvriSize roiSize);
+KvrStatus kvriSet_32f_C4CR(Kvr32f value, Kvr32f* pDst, int dstStep, KvriSize roiSize);
+
+/* Dup - each grey sample into every channel of the destination pixel; C1C4R writes the fourth channel too.
+ * Errors, in this order: null pointer -8, width or height below 1 -6. Any step is accepted. */
+KvrStatus kvriDup_8u_C1C3R(const Kvr8u* pSrc, int srcStep, Kvr8u* pDst, int dstStep, KvriSize roiSize);
+KvrStatus kvriDup_8u_C1C4R(const Kvr8u* pSrc, int srcStep, Kvr8u* pDst, int dstStep, KvriSize roiSize);
+
+/* SwapChannels - destination channel k takes source channel order[k]. A channel may be taken more than once.
+ * pSrc = pDst with equal steps works for C3R, C4R and AC4R: each pixel is read whole before it is written.
+ * Entries: C3 0..2 each; C4R, C4IR and C4C3R 0..3 each; AC4R three entries 0..2, the fourth destination channel is kept.
+ * Errors, C3R, C4R, C4C3R and C3C4R: null pointer -8 (order counts), width or height below 1 -6, step of zero -14, bad
+ * entry -60. Negative steps are accepted. */
+KvrStatus kvriSwapChannels_8u_C3R(const Kvr8u* pSrc, int srcStep, Kvr8u* pDst, int dstStep, KvriSize roiSize, const int order[3]);
+KvrStatus kvriSwapChannels_8u_C4R(const Kvr8u* pSrc, int srcStep, Kvr8u* pDst, int dstStep, KvriSize roiSize, const int order[4]);
+KvrStatus kvriSwapChannels_8u_C4C3R(const Kvr8u* pSrc, int srcStep, Kvr8u* pDst, int dstStep, KvriSize roiSize, const int order[3]);
+KvrStatus kvriSwapChannels_16u_C3R(const Kvr16u* pSrc, int srcStep, Kvr16u* pDst, int dstStep, KvriSize roiSize, const int order[3]);
+KvrStatus kvriSwapChannels_16u_C4R(const Kvr16u* pSrc, int srcStep, Kvr16u* pDst, int dstStep, KvriSize roiSize, const int order[4]);
+KvrStatus kvriSwapChannels_16u_C4C3R(const Kvr16u* pSrc, int srcStep, Kvr16u* pDst, int dstStep, KvriSize roiSize, const int order[3]);
+KvrStatus kvriSwapChannels_16s_C3R(const Kvr16s* pSrc, int srcStep, Kvr16s* pDst, int dstStep, KvriSize roiSize, const int order[3]);
+KvrStatus kvriSwapChannels_16s_C4R(const Kvr16s* pSrc, int srcStep, Kvr16s* pDst, int dstStep, KvriSize roiSize, const int order[4]);
+KvrStatus kvriSwapChannels_16s_C4C3R(const Kvr16s* pSrc, int srcStep, Kvr16s* pDst, int dstStep, KvriSize roiSize, const int order[3]);
+KvrStatus kvriSwapChannels_32s_C3R(const Kvr32s* pSrc, int srcStep, Kvr32s* pDst, int dstStep, KvriSize roiSize, const int order[3]);
+KvrStatus kvriSwapChannels_32s_C4R(const Kvr32s* pSrc, int srcStep, Kvr32s* pDst, int dstStep, KvriSize roiSize, const int order[4]);
+KvrStatus kvriSwapChannels_32s_C4C3R(const Kvr32s* pSrc, int srcStep, Kvr32s* pDst, int dstStep, KvriSize roiSize, const int order[3]);
+KvrStatus kvriSwapChannels_32f_C3R(const Kvr32f* pSrc, int srcStep, Kvr32f* pDst, int dstStep, KvriSize roiSize, const int order[3]);
+KvrStatus kvriSwapChannels_32f_C4R(const Kvr32f* pSrc, int srcStep, Kvr32f* pDst, int dstStep, KvriSize roiSize, const int order[4]);
+KvrStatus kvriSwapChannels_32f_C4C3R(const Kvr32f* pSrc, int srcStep, Kvr32f* pDst, int dstStep, KvriSize roiSize, const int order[3]);
+
+/* SwapChannels C3C4R - an entry of 0..2 takes that channel, 3 writes value, 4 and more keep the destination's channel;
+ * a negative entry is -60. */
+KvrStatus kvriSwapChannels_8u_C3C4R(const Kvr8u* pSrc, int srcStep, Kvr8u* pDst, int dstStep, KvriSize roiSize, const int order[4], Kvr8u value);
+KvrStatus kvriSwapChannels_16u_C3C4R(const Kvr16u* pSrc, int srcStep, Kvr16u* pDst, int dstStep, KvriSize roiSize, const int order[4], Kvr16u value);
+KvrStatus kvriSwapChannels_16s_C3C4R(const Kvr16s* pSrc, int srcStep, Kvr16s* pDst, int dstStep, KvriSize roiSize, const int order[4], Kvr16s value);
+KvrStatus kvriSwapChannels_32s_C3C4R(const Kvr32s* pSrc, int srcStep, Kvr32s* pDst, int dstStep, KvriSize roiSize, const int order[4], Kvr32s value);
+KvrStatus kvriSwapChannels_32f_C3C4R(const Kvr32f* pSrc, int srcStep, Kvr32f* pDst, int dstStep, KvriSize roiSize, const int order[4], Kvr32f value);
+
+/* SwapChannels AC4R and in place - errors in another order: null image pointer -8, step of zero -14, width or height
+ * below 1 -6, null order -8, bad entry -60. */
+KvrStatus kvriSwapChannels_8u_AC4R(const Kvr8u* pSrc, int srcStep, Kvr8u* pDst, int dstStep, KvriSize roiSize, const int order[3]);
+KvrStatus kvriSwapChannels_16u_AC4R(const Kvr16u* pSrc, int srcStep, Kvr16u* pDst, int dstStep, KvriSize roiSize, const int order[3]);
+KvrStatus kvriSwapChannels_16s_AC4R(const Kvr16s* pSrc, int srcStep, Kvr16s* pDst, int dstStep, KvriSize roiSize, const int order[3]);
+KvrStatus kvriSwapChannels_32s_AC4R(const Kvr32s* pSrc, int srcStep, Kvr32s* pDst, int dstStep, KvriSize roiSize, const int order[3]);
+KvrStatus kvriSwapChannels_32f_AC4R(const Kvr32f* pSrc, int srcStep, Kvr32f* pDst, int dstStep, KvriSize roiSize, const int order[3]);
+KvrStatus kvriSwapChannels_8u_C3IR(Kvr8u* pSrcDst, int srcDstStep, KvriSize roiSize, const int order[3]);
+KvrStatus kvriSwapChannels_8u_C4IR(Kvr8u* pSrcDst, int srcDstStep, KvriSize roiSize, const int order[4]);
+
+#pragma GCC visibility pop
+#ifdef __cplusplus
+}
+#endif
+
+#endif

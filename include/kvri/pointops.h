@@ -1,0 +1,511 @@
+/* kvri/pointops.h - operations on single pixels. */
+#ifndef KVRI_POINTOPS_H
+#define KVRI_POINTOPS_H
+
+#include "kvri/types.h"
+
+#ifdef __cplusplus
+extern "C" {
+#endif
+#pragma GCC visibility push(default)
+
+/* Arithmetic. Functions of integers take a scale factor: the exact result r is replaced by r * 2^-scaleFactor, rounded to the
+ * nearest integer, ties to even, and saturated to the sample type (parts of complex samples each on their own). Every
+ * scale factor of the int range is accepted. Functions of 32f and 32fc compute in IEEE single precision.
+ *
+ * Pixel by pixel, no neighbourhood. IR works in place: pSrcDst is the second source and the destination. AC4 processes three
+ * channels and leaves the destination's fourth as it is. Constants: C1 the value itself, C3 and AC4 an array of three, C4
+ * of four. Rows of 16-bit and wider samples may begin at any byte address. */
+
+/* Add, AddC - pSrc1 + pSrc2; pSrc + value.
+ * Errors, in this order: null pointer -8 (the array of constants counts), width or height below 1 -6; complex types then a
+ * step below 1 -14, the others accept any step. */
+KvrStatus kvriAdd_8u_C1RSfs(const Kvr8u* pSrc1, int src1Step, const Kvr8u* pSrc2, int src2Step, Kvr8u* pDst, int dstStep, KvriSize roiSize, int scaleFactor);
+KvrStatus kvriAdd_8u_C3RSfs(const Kvr8u* pSrc1, int src1Step, const Kvr8u* pSrc2, int src2Step, Kvr8u* pDst, int dstStep, KvriSize roiSize, int scaleFactor);
+KvrStatus kvriAdd_8u_C4RSfs(const Kvr8u* pSrc1, int src1Step, const Kvr8u* pSrc2, int src2Step, Kvr8u* pDst, int dstStep, KvriSize roiSize, int scaleFactor);
+KvrStatus kvriAdd_8u_AC4RSfs(const Kvr8u* pSrc1, int src1Step, const Kvr8u* pSrc2, int src2Step, Kvr8u* pDst, int dstStep, KvriSize roiSize, int scaleFactor);
+KvrStatus kvriAdd_8u_C1IRSfs(const Kvr8u* pSrc, int srcStep, Kvr8u* pSrcDst, int srcDstStep, KvriSize roiSize, int scaleFactor);
+KvrStatus kvriAdd_8u_C3IRSfs(const Kvr8u* pSrc, int srcStep, Kvr8u* pSrcDst, int srcDstStep, KvriSize roiSize, int scaleFactor);
+KvrStatus kvriAdd_8u_C4IRSfs(const Kvr8u* pSrc, int srcStep, Kvr8u* pSrcDst, int srcDstStep, KvriSize roiSize, int scaleFactor);
+KvrStatus kvriAdd_8u_AC4IRSfs(const Kvr8u* pSrc, int srcStep, Kvr8u* pSrcDst, int srcDstStep, KvriSize roiSize, int scaleFactor);
+KvrStatus kvriAdd_16u_C1RSfs(const Kvr16u* pSrc1, int src1Step, const Kvr16u* pSrc2, int src2Step, Kvr16u* pDst, int dstStep, KvriSize roiSize, int scaleFactor);
+KvrStatus kvriAdd_16u_C3RSfs(const Kvr16u* pSrc1, int src1Step, const Kvr16u* pSrc2, int src2Step, Kvr16u* pDst, int dstStep, KvriSize roiSize, int scaleFactor);
+KvrStatus kvriAdd_16u_C4RSfs(const Kvr16u* pSrc1, int src1Step, const Kvr16u* pSrc2, int src2Step, Kvr16u* pDst, int dstStep, KvriSize roiSize, int scaleFactor);
+KvrStatus kvriAdd_16u_AC4RSfs(const Kvr16u* pSrc1, int src1Step, const Kvr16u* pSrc2, int src2Step, Kvr16u* pDst, int dstStep, KvriSize roiSize, int scaleFactor);
+KvrStatus kvriAdd_16u_C1IRSfs(const Kvr16u* pSrc, int srcStep, Kvr16u* pSrcDst, int srcDstStep, KvriSize roiSize, int scaleFactor);
+KvrStatus kvriAdd_16u_C3IRSfs(const Kvr16u* pSrc, int srcStep, Kvr16u* pSrcDst, int srcDstStep, KvriSize roiSize, int scaleFactor);
+KvrStatus kvriAdd_16u_C4IRSfs(const Kvr16u* pSrc, int srcStep, Kvr16u* pSrcDst, int srcDstStep, KvriSize roiSize, int scaleFactor);
+KvrStatus kvriAdd_16u_AC4IRSfs(const Kvr16u* pSrc, int srcStep, Kvr16u* pSrcDst, int srcDstStep, KvriSize roiSize, int scaleFactor);
+KvrStatus kvriAdd_16s_C1RSfs(const Kvr16s* pSrc1, int src1Step, const Kvr16s* pSrc2, int src2Step, Kvr16s* pDst, int dstStep, KvriSize roiSize, int scaleFactor);
+KvrStatus kvriAdd_16s_C3RSfs(const Kvr16s* pSrc1, int src1Step, const Kvr16s* pSrc2, int src2Step, Kvr16s* pDst, int dstStep, KvriSize roiSize, int scaleFactor);
+KvrStatus kvriAdd_16s_C4RSfs(const Kvr16s* pSrc1, int src1Step, const Kvr16s* pSrc2, int src2Step, Kvr16s* pDst, int dstStep, KvriSize roiSize, int scaleFactor);
+KvrStatus kvriAdd_16s_AC4RSfs(const Kvr16s* pSrc1, int src1Step, const Kvr16s* pSrc2, int src2Step, Kvr16s* pDst, int dstStep, KvriSize roiSize, int scaleFactor);
+KvrStatus kvriAdd_16s_C1IRSfs(const Kvr16s* pSrc, int srcStep, Kvr16s* pSrcDst, int srcDstStep, KvriSize roiSize, int scaleFactor);
+KvrStatus kvriAdd_16s_C3IRSfs(const Kvr16s* pSrc, int srcStep, Kvr16s* pSrcDst, int srcDstStep, KvriSize roiSize, int scaleFactor);
+KvrStatus kvriAdd_16s_C4IRSfs(const Kvr16s* pSrc, int srcStep, Kvr16s* pSrcDst, int srcDstStep, KvriSize roiSize, int scaleFactor);
+KvrStatus kvriAdd_16s_AC4IRSfs(const Kvr16s* pSrc, int srcStep, Kvr16s* pSrcDst, int srcDstStep, KvriSize roiSize, int scaleFactor);
+KvrStatus kvriAdd_16sc_C1RSfs(const Kvr16sc* pSrc1, int src1Step, const Kvr16sc* pSrc2, int src2Step, Kvr16sc* pDst, int dstStep, KvriSize roiSize, int scaleFactor);
+KvrStatus kvriAdd_16sc_C3RSfs(const Kvr16sc* pSrc1, int src1Step, const Kvr16sc* pSrc2, int src2Step, Kvr16sc* pDst, int dstStep, KvriSize roiSize, int scaleFactor);
+KvrStatus kvriAdd_16sc_AC4RSfs(const Kvr16sc* pSrc1, int src1Step, const Kvr16sc* pSrc2, int src2Step, Kvr16sc* pDst, int dstStep, KvriSize roiSize, int scaleFactor);
+KvrStatus kvriAdd_16sc_C1IRSfs(const Kvr16sc* pSrc, int srcStep, Kvr16sc* pSrcDst, int srcDstStep, KvriSize roiSize, int scaleFactor);
+KvrStatus kvriAdd_16sc_C3IRSfs(const Kvr16sc* pSrc, int srcStep, Kvr16sc* pSrcDst, int srcDstStep, KvriSize roiSize, int scaleFactor);
+KvrStatus kvriAdd_16sc_AC4IRSfs(const Kvr16sc* pSrc, int srcStep, Kvr16sc* pSrcDst, int srcDstStep, KvriSize roiSize, int scaleFactor);
+KvrStatus kvriAdd_32sc_C1RSfs(const Kvr32sc* pSrc1, int src1Step, const Kvr32sc* pSrc2, int src2Step, Kvr32sc* pDst, int dstStep, KvriSize roiSize, int scaleFactor);
+KvrStatus kvriAdd_32sc_C3RSfs(const Kvr32sc* pSrc1, int src1Step, const Kvr32sc* pSrc2, int src2Step, Kvr32sc* pDst, int dstStep, KvriSize roiSize, int scaleFactor);
+KvrStatus kvriAdd_32sc_AC4RSfs(const Kvr32sc* pSrc1, int src1Step, const Kvr32sc* pSrc2, int src2Step, Kvr32sc* pDst, int dstStep, KvriSize roiSize, int scaleFactor);
+KvrStatus kvriAdd_32sc_C1IRSfs(const Kvr32sc* pSrc, int srcStep, Kvr32sc* pSrcDst, int srcDstStep, KvriSize roiSize, int scaleFactor);
+KvrStatus kvriAdd_32sc_C3IRSfs(const Kvr32sc* pSrc, int srcStep, Kvr32sc* pSrcDst, int srcDstStep, KvriSize roiSize, int scaleFactor);
+KvrStatus kvriAdd_32sc_AC4IRSfs(const Kvr32sc* pSrc, int srcStep, Kvr32sc* pSrcDst, int srcDstStep, KvriSize roiSize, int scaleFactor);
+KvrStatus kvriAdd_32f_C1R(const Kvr32f* pSrc1, int src1Step, const Kvr32f* pSrc2, int src2Step, Kvr32f* pDst, int dstStep, KvriSize roiSize);
+KvrStatus kvriAdd_32f_C3R(const Kvr32f* pSrc1, int src1Step, const Kvr32f* pSrc2, int src2Step, Kvr32f* pDst, int dstStep, KvriSize roiSize);
+KvrStatus kvriAdd_32f_C4R(const Kvr32f* pSrc1, int src1Step, const Kvr32f* pSrc2, int src2Step, Kvr32f* pDst, int dstStep, KvriSize roiSize);
+KvrStatus kvriAdd_32f_AC4R(const Kvr32f* pSrc1, int src1Step, const Kvr32f* pSrc2, int src2Step, Kvr32f* pDst, int dstStep, KvriSize roiSize);
+KvrStatus kvriAdd_32f_C1IR(const Kvr32f* pSrc, int srcStep, Kvr32f* pSrcDst, int srcDstStep, KvriSize roiSize);
+KvrStatus kvriAdd_32f_C3IR(const Kvr32f* pSrc, int srcStep, Kvr32f* pSrcDst, int srcDstStep, KvriSize roiSize);
+KvrStatus kvriAdd_32f_C4IR(const Kvr32f* pSrc, int srcStep, Kvr32f* pSrcDst, int srcDstStep, KvriSize roiSize);
+KvrStatus kvriAdd_32f_AC4IR(const Kvr32f* pSrc, int srcStep, Kvr32f* pSrcDst, int srcDstStep, KvriSize roiSize);
+KvrStatus kvriAdd_32fc_C1R(const Kvr32fc* pSrc1, int src1Step, const Kvr32fc* pSrc2, int src2Step, Kvr32fc* pDst, int dstStep, KvriSize roiSize);
+KvrStatus kvriAdd_32fc_C3R(const Kvr32fc* pSrc1, int src1Step, const Kvr32fc* pSrc2, int src2Step, Kvr32fc* pDst, int dstStep, KvriSize roiSize);
+KvrStatus kvriAdd_32fc_AC4R(const Kvr32fc* pSrc1, int src1Step, const Kvr32fc* pSrc2, int src2Step, Kvr32fc* pDst, int dstStep, KvriSize roiSize);
+KvrStatus kvriAdd_32fc_C1IR(const Kvr32fc* pSrc, int srcStep, Kvr32fc* pSrcDst, int srcDstStep, KvriSize roiSize);
+KvrStatus kvriAdd_32fc_C3IR(const Kvr32fc* pSrc, int srcStep, Kvr32fc* pSrcDst, int srcDstStep, KvriSize roiSize);
+KvrStatus kvriAdd_32fc_AC4IR(const Kvr32fc* pSrc, int srcStep, Kvr32fc* pSrcDst, int srcDstStep, KvriSize roiSize);
+KvrStatus kvriAddC_8u_C1RSfs(const Kvr8u* pSrc, int srcStep, Kvr8u value, Kvr8u* pDst, int dstStep, KvriSize roiSize, int scaleFactor);
+KvrStatus kvriAddC_8u_C3RSfs(const Kvr8u* pSrc, int srcStep, const Kvr8u value[3], Kvr8u* pDst, int dstStep, KvriSize roiSize, int scaleFactor);
+KvrStatus kvriAddC_8u_C4RSfs(const Kvr8u* pSrc, int srcStep, const Kvr8u value[4], Kvr8u* pDst, int dstStep, KvriSize roiSize, int scaleFactor);
+KvrStatus kvriAddC_8u_AC4RSfs(const Kvr8u* pSrc, int srcStep, const Kvr8u value[3], Kvr8u* pDst, int dstStep, KvriSize roiSize, int scaleFactor);
+KvrStatus kvriAddC_8u_C1IRSfs(Kvr8u value, Kvr8u* pSrcDst, int srcDstStep, KvriSize roiSize, int scaleFactor);
+KvrStatus kvriAddC_8u_C3IRSfs(const Kvr8u value[3], Kvr8u* pSrcDst, int srcDstStep, KvriSize roiSize, int scaleFactor);
+KvrStatus kvriAddC_8u_C4IRSfs(const Kvr8u value[4], Kvr8u* pSrcDst, int srcDstStep, KvriSize roiSize, int scaleFactor);
+KvrStatus kvriAddC_8u_AC4IRSfs(const Kvr8u value[3], Kvr8u* pSrcDst, int srcDstStep, KvriSize roiSize, int scaleFactor);
+KvrStatus kvriAddC_16u_C1RSfs(const Kvr16u* pSrc, int srcStep, Kvr16u value, Kvr16u* pDst, int dstStep, KvriSize roiSize, int scaleFactor);
+KvrStatus kvriAddC_16u_C3RSfs(const Kvr16u* pSrc, int srcStep, const Kvr16u value[3], Kvr16u* pDst, int dstStep, KvriSize roiSize, int scaleFactor);
+KvrStatus kvriAddC_16u_C4RSfs(const Kvr16u* pSrc, int srcStep, const Kvr16u value[4], Kvr16u* pDst, int dstStep, KvriSize roiSize, int scaleFactor);
+KvrStatus kvriAddC_16u_AC4RSfs(const Kvr16u* pSrc, int srcStep, const Kvr16u value[3], Kvr16u* pDst, int dstStep, KvriSize roiSize, int scaleFactor);
+KvrStatus kvriAddC_16u_C1IRSfs(Kvr16u value, Kvr16u* pSrcDst, int srcDstStep, KvriSize roiSize, int scaleFactor);
+KvrStatus kvriAddC_16u_C3IRSfs(const Kvr16u value[3], Kvr16u* pSrcDst, int srcDstStep, KvriSize roiSize, int scaleFactor);
+KvrStatus kvriAddC_16u_C4IRSfs(const Kvr16u value[4], Kvr16u* pSrcDst, int srcDstStep, KvriSize roiSize, int scaleFactor);
+KvrStatus kvriAddC_16u_AC4IRSfs(const Kvr16u value[3], Kvr16u* pSrcDst, int srcDstStep, KvriSize roiSize, int scaleFactor);
+KvrStatus kvriAddC_16s_C1RSfs(const Kvr16s* pSrc, int srcStep, Kvr16s value, Kvr16s* pDst, int dstStep, KvriSize roiSize, int scaleFactor);
+KvrStatus kvriAddC_16s_C3RSfs(const Kvr16s* pSrc, int srcStep, const Kvr16s value[3], Kvr16s* pDst, int dstStep, KvriSize roiSize, int scaleFactor);
+KvrStatus kvriAddC_16s_C4RSfs(const Kvr16s* pSrc, int srcStep, const Kvr16s value[4], Kvr16s* pDst, int dstStep, KvriSize roiSize, int scaleFactor);
+KvrStatus kvriAddC_16s_AC4RSfs(const Kvr16s* pSrc, int srcStep, const Kvr16s value[3], Kvr16s* pDst, int dstStep, KvriSize roiSize, int scaleFactor);
+KvrStatus kvriAddC_16s_C1IRSfs(Kvr16s value, Kvr16s* pSrcDst, int srcDstStep, KvriSize roiSize, int scaleFactor);
+KvrStatus kvriAddC_16s_C3IRSfs(const Kvr16s value[3], Kvr16s* pSrcDst, int srcDstStep, KvriSize roiSize, int scaleFactor);
+KvrStatus kvriAddC_16s_C4IRSfs(const Kvr16s value[4], Kvr16s* pSrcDst, int srcDstStep, KvriSize roiSize, int scaleFactor);
+KvrStatus kvriAddC_16s_AC4IRSfs(const Kvr16s value[3], Kvr16s* pSrcDst, int srcDstStep, KvriSize roiSize, int scaleFactor);
+KvrStatus kvriAddC_16sc_C1RSfs(const Kvr16sc* pSrc, int srcStep, Kvr16sc value, Kvr16sc* pDst, int dstStep, KvriSize roiSize, int scaleFactor);
+KvrStatus kvriAddC_16sc_C3RSfs(const Kvr16sc* pSrc, int srcStep, const Kvr16sc value[3], Kvr16sc* pDst, int dstStep, KvriSize roiSize, int scaleFactor);
+KvrStatus kvriAddC_16sc_AC4RSfs(const Kvr16sc* pSrc, int srcStep, const Kvr16sc value[3], Kvr16sc* pDst, int dstStep, KvriSize roiSize, int scaleFactor);
+KvrStatus kvriAddC_16sc_C1IRSfs(Kvr16sc value, Kvr16sc* pSrcDst, int srcDstStep, KvriSize roiSize, int scaleFactor);
+KvrStatus kvriAddC_16sc_C3IRSfs(const Kvr16sc value[3], Kvr16sc* pSrcDst, int srcDstStep, KvriSize roiSize, int scaleFactor);
+KvrStatus kvriAddC_16sc_AC4IRSfs(const Kvr16sc value[3], Kvr16sc* pSrcDst, int srcDstStep, KvriSize roiSize, int scaleFactor);
+KvrStatus kvriAddC_32sc_C1RSfs(const Kvr32sc* pSrc, int srcStep, Kvr32sc value, Kvr32sc* pDst, int dstStep, KvriSize roiSize, int scaleFactor);
+KvrStatus kvriAddC_32sc_C3RSfs(const Kvr32sc* pSrc, int srcStep, const Kvr32sc value[3], Kvr32sc* pDst, int dstStep, KvriSize roiSize, int scaleFactor);
+KvrStatus kvriAddC_32sc_AC4RSfs(const Kvr32sc* pSrc, int srcStep, const Kvr32sc value[3], Kvr32sc* pDst, int dstStep, KvriSize roiSize, int scaleFactor);
+KvrStatus kvriAddC_32sc_C1IRSfs(Kvr32sc value, Kvr32sc* pSrcDst, int srcDstStep, KvriSize roiSize, int scaleFactor);
+KvrStatus kvriAddC_32sc_C3IRSfs(const Kvr32sc value[3], Kvr32sc* pSrcDst, int srcDstStep, KvriSize roiSize, int scaleFactor);
+KvrStatus kvriAddC_32sc_AC4IRSfs(const Kvr32sc value[3], Kvr32sc* pSrcDst, int srcDstStep, KvriSize roiSize, int scaleFactor);
+KvrStatus kvriAddC_32f_C1R(const Kvr32f* pSrc, int srcStep, Kvr32f value, Kvr32f* pDst, int dstStep, KvriSize roiSize);
+KvrStatus kvriAddC_32f_C3R(const Kvr32f* pSrc, int srcStep, const Kvr32f value[3], Kvr32f* pDst, int dstStep, KvriSize roiSize);
+KvrStatus kvriAddC_32f_C4R(const Kvr32f* pSrc, int srcStep, const Kvr32f value[4], Kvr32f* pDst, int dstStep, KvriSize roiSize);
+KvrStatus kvriAddC_32f_AC4R(const Kvr32f* pSrc, int srcStep, const Kvr32f value[3], Kvr32f* pDst, int dstStep, KvriSize roiSize);
+KvrStatus kvriAddC_32f_C1IR(Kvr32f value, Kvr32f* pSrcDst, int srcDstStep, KvriSize roiSize);
+KvrStatus kvriAddC_32f_C3IR(const Kvr32f value[3], Kvr32f* pSrcDst, int srcDstStep, KvriSize roiSize);
+KvrStatus kvriAddC_32f_C4IR(const Kvr32f value[4], Kvr32f* pSrcDst, int srcDstStep, KvriSize roiSize);
+KvrStatus kvriAddC_32f_AC4IR(const Kvr32f value[3], Kvr32f* pSrcDst, int srcDstStep, KvriSize roiSize);
+KvrStatus kvriAddC_32fc_C1R(const Kvr32fc* pSrc, int srcStep, Kvr32fc value, Kvr32fc* pDst, int dstStep, KvriSize roiSize);
+KvrStatus kvriAddC_32fc_C3R(const Kvr32fc* pSrc, int srcStep, const Kvr32fc value[3], Kvr32fc* pDst, int dstStep, KvriSize roiSize);
+KvrStatus kvriAddC_32fc_AC4R(const Kvr32fc* pSrc, int srcStep, const Kvr32fc value[3], Kvr32fc* pDst, int dstStep, KvriSize roiSize);
+KvrStatus kvriAddC_32fc_C1IR(Kvr32fc value, Kvr32fc* pSrcDst, int srcDstStep, KvriSize roiSize);
+KvrStatus kvriAddC_32fc_C3IR(const Kvr32fc value[3], Kvr32fc* pSrcDst, int srcDstStep, KvriSize roiSize);
+KvrStatus kvriAddC_32fc_AC4IR(const Kvr32fc value[3], Kvr32fc* pSrcDst, int srcDstStep, KvriSize roiSize);
+
+/* Sub, SubC - pSrc2 - pSrc1: the first source is subtracted; pSrcDst - pSrc; pSrc - value. Unsigned results below 0 are 0.
+ * Errors as for Add. */
+KvrStatus kvriSub_8u_C1RSfs(const Kvr8u* pSrc1, int src1Step, const Kvr8u* pSrc2, int src2Step, Kvr8u* pDst, int dstStep, KvriSize roiSize, int scaleFactor);
+KvrStatus kvriSub_8u_C3RSfs(const Kvr8u* pSrc1, int src1Step, const Kvr8u* pSrc2, int src2Step, Kvr8u* pDst, int dstStep, KvriSize roiSize, int scaleFactor);
+KvrStatus kvriSub_8u_C4RSfs(const Kvr8u* pSrc1, int src1Step, const Kvr8u* pSrc2, int src2Step, Kvr8u* pDst, int dstStep, KvriSize roiSize, int scaleFactor);
+KvrStatus kvriSub_8u_AC4RSfs(const Kvr8u* pSrc1, int src1Step, const Kvr8u* pSrc2, int src2Step, Kvr8u* pDst, int dstStep, KvriSize roiSize, int scaleFactor);
+KvrStatus kvriSub_8u_C1IRSfs(const Kvr8u* pSrc, int srcStep, Kvr8u* pSrcDst, int srcDstStep, KvriSize roiSize, int scaleFactor);
+KvrStatus kvriSub_8u_C3IRSfs(const Kvr8u* pSrc, int srcStep, Kvr8u* pSrcDst, int srcDstStep, KvriSize roiSize, int scaleFactor);
+KvrStatus kvriSub_8u_C4IRSfs(const Kvr8u* pSrc, int srcStep, Kvr8u* pSrcDst, int srcDstStep, KvriSize roiSize, int scaleFactor);
+KvrStatus kvriSub_8u_AC4IRSfs(const Kvr8u* pSrc, int srcStep, Kvr8u* pSrcDst, int srcDstStep, KvriSize roiSize, int scaleFactor);
+KvrStatus kvriSub_16u_C1RSfs(const Kvr16u* pSrc1, int src1Step, const Kvr16u* pSrc2, int src2Step, Kvr16u* pDst, int dstStep, KvriSize roiSize, int scaleFactor);
+KvrStatus kvriSub_16u_C3RSfs(const Kvr16u* pSrc1, int src1Step, const Kvr16u* pSrc2, int src2Step, Kvr16u* pDst, int dstStep, KvriSize roiSize, int scaleFactor);
+KvrStatus kvriSub_16u_C4RSfs(const Kvr16u* pSrc1, int src1Step, const Kvr16u* pSrc2, int src2Step, Kvr16u* pDst, int dstStep, KvriSize roiSize, int scaleFactor);
+KvrStatus kvriSub_16u_AC4RSfs(const Kvr16u* pSrc1, int src1Step, const Kvr16u* pSrc2, int src2Step, Kvr16u* pDst, int dstStep, KvriSize roiSize, int scaleFactor);
+KvrStatus kvriSub_16u_C1IRSfs(const Kvr16u* pSrc, int srcStep, Kvr16u* pSrcDst, int srcDstStep, KvriSize roiSize, int scaleFactor);
+KvrStatus kvriSub_16u_C3IRSfs(const Kvr16u* pSrc, int srcStep, Kvr16u* pSrcDst, int srcDstStep, KvriSize roiSize, int scaleFactor);
+KvrStatus kvriSub_16u_C4IRSfs(const Kvr16u* pSrc, int srcStep, Kvr16u* pSrcDst, int srcDstStep, KvriSize roiSize, int scaleFactor);
+KvrStatus kvriSub_16u_AC4IRSfs(const Kvr16u* pSrc, int srcStep, Kvr16u* pSrcDst, int srcDstStep, KvriSize roiSize, int scaleFactor);
+KvrStatus kvriSub_16s_C1RSfs(const Kvr16s* pSrc1, int src1Step, const Kvr16s* pSrc2, int src2Step, Kvr16s* pDst, int dstStep, KvriSize roiSize, int scaleFactor);
+KvrStatus kvriSub_16s_C3RSfs(const Kvr16s* pSrc1, int src1Step, const Kvr16s* pSrc2, int src2Step, Kvr16s* pDst, int dstStep, KvriSize roiSize, int scaleFactor);
+KvrStatus kvriSub_16s_C4RSfs(const Kvr16s* pSrc1, int src1Step, const Kvr16s* pSrc2, int src2Step, Kvr16s* pDst, int dstStep, KvriSize roiSize, int scaleFactor);
+KvrStatus kvriSub_16s_AC4RSfs(const Kvr16s* pSrc1, int src1Step, const Kvr16s* pSrc2, int src2Step, Kvr16s* pDst, int dstStep, KvriSize roiSize, int scaleFactor);
+KvrStatus kvriSub_16s_C1IRSfs(const Kvr16s* pSrc, int srcStep, Kvr16s* pSrcDst, int srcDstStep, KvriSize roiSize, int scaleFactor);
+KvrStatus kvriSub_16s_C3IRSfs(const Kvr16s* pSrc, int srcStep, Kvr16s* pSrcDst, int srcDstStep, KvriSize roiSize, int scaleFactor);
+KvrStatus kvriSub_16s_C4IRSfs(const Kvr16s* pSrc, int srcStep, Kvr16s* pSrcDst, int srcDstStep, KvriSize roiSize, int scaleFactor);
+KvrStatus kvriSub_16s_AC4IRSfs(const Kvr16s* pSrc, int srcStep, Kvr16s* pSrcDst, int srcDstStep, KvriSize roiSize, int scaleFactor);
+KvrStatus kvriSub_16sc_C1RSfs(const Kvr16sc* pSrc1, int src1Step, const Kvr16sc* pSrc2, int src2Step, Kvr16sc* pDst, int dstStep, KvriSize roiSize, int scaleFactor);
+KvrStatus kvriSub_16sc_C3RSfs(const Kvr16sc* pSrc1, int src1Step, const Kvr16sc* pSrc2, int src2Step, Kvr16sc* pDst, int dstStep, KvriSize roiSize, int scaleFactor);
+KvrStatus kvriSub_16sc_AC4RSfs(const Kvr16sc* pSrc1, int src1Step, const Kvr16sc* pSrc2, int src2Step, Kvr16sc* pDst, int dstStep, KvriSize roiSize, int scaleFactor);
+KvrStatus kvriSub_16sc_C1IRSfs(const Kvr16sc* pSrc, int srcStep, Kvr16sc* pSrcDst, int srcDstStep, KvriSize roiSize, int scaleFactor);
+KvrStatus kvriSub_16sc_C3IRSfs(const Kvr16sc* pSrc, int srcStep, Kvr16sc* pSrcDst, int srcDstStep, KvriSize roiSize, int scaleFactor);
+KvrStatus kvriSub_16sc_AC4IRSfs(const Kvr16sc* pSrc, int srcStep, Kvr16sc* pSrcDst, int srcDstStep, KvriSize roiSize, int scaleFactor);
+KvrStatus kvriSub_32sc_C1RSfs(const Kvr32sc* pSrc1, int src1Step, const Kvr32sc* pSrc2, int src2Step, Kvr32sc* pDst, int dstStep, KvriSize roiSize, int scaleFactor);
+KvrStatus kvriSub_32sc_C3RSfs(const Kvr32sc* pSrc1, int src1Step, const Kvr32sc* pSrc2, int src2Step, Kvr32sc* pDst, int dstStep, KvriSize roiSize, int scaleFactor);
+KvrStatus kvriSub_32sc_AC4RSfs(const Kvr32sc* pSrc1, int src1Step, const Kvr32sc* pSrc2, int src2Step, Kvr32sc* pDst, int dstStep, KvriSize roiSize, int scaleFactor);
+KvrStatus kvriSub_32sc_C1IRSfs(const Kvr32sc* pSrc, int srcStep, Kvr32sc* pSrcDst, int srcDstStep, KvriSize roiSize, int scaleFactor);
+KvrStatus kvriSub_32sc_C3IRSfs(const Kvr32sc* pSrc, int srcStep, Kvr32sc* pSrcDst, int srcDstStep, KvriSize roiSize, int scaleFactor);
+KvrStatus kvriSub_32sc_AC4IRSfs(const Kvr32sc* pSrc, int srcStep, Kvr32sc* pSrcDst, int srcDstStep, KvriSize roiSize, int scaleFactor);
+KvrStatus kvriSub_32f_C1R(const Kvr32f* pSrc1, int src1Step, const Kvr32f* pSrc2, int src2Step, Kvr32f* pDst, int dstStep, KvriSize roiSize);
+KvrStatus kvriSub_32f_C3R(const Kvr32f* pSrc1, int src1Step, const Kvr32f* pSrc2, int src2Step, Kvr32f* pDst, int dstStep, KvriSize roiSize);
+KvrStatus kvriSub_32f_C4R(const Kvr32f* pSrc1, int src1Step, const Kvr32f* pSrc2, int src2Step, Kvr32f* pDst, int dstStep, KvriSize roiSize);
+KvrStatus kvriSub_32f_AC4R(const Kvr32f* pSrc1, int src1Step, const Kvr32f* pSrc2, int src2Step, Kvr32f* pDst, int dstStep, KvriSize roiSize);
+KvrStatus kvriSub_32f_C1IR(const Kvr32f* pSrc, int srcStep, Kvr32f* pSrcDst, int srcDstStep, KvriSize roiSize);
+KvrStatus kvriSub_32f_C3IR(const Kvr32f* pSrc, int srcStep, Kvr32f* pSrcDst, int srcDstStep, KvriSize roiSize);
+KvrStatus kvriSub_32f_C4IR(const Kvr32f* pSrc, int srcStep, Kvr32f* pSrcDst, int srcDstStep, KvriSize roiSize);
+KvrStatus kvriSub_32f_AC4IR(const Kvr32f* pSrc, int srcStep, Kvr32f* pSrcDst, int srcDstStep, KvriSize roiSize);
+KvrStatus kvriSub_32fc_C1R(const Kvr32fc* pSrc1, int src1Step, const Kvr32fc* pSrc2, int src2Step, Kvr32fc* pDst, int dstStep, KvriSize roiSize);
+KvrStatus kvriSub_32fc_C3R(const Kvr32fc* pSrc1, int src1Step, const Kvr32fc* pSrc2, int src2Step, Kvr32fc* pDst, int dstStep, KvriSize roiSize);
+KvrStatus kvriSub_32fc_AC4R(const Kvr32fc* pSrc1, int src1Step, const Kvr32fc* pSrc2, int src2Step, Kvr32fc* pDst, int dstStep, KvriSize roiSize);
+KvrStatus kvriSub_32fc_C1IR(const Kvr32fc* pSrc, int srcStep, Kvr32fc* pSrcDst, int srcDstStep, KvriSize roiSize);
+KvrStatus kvriSub_32fc_C3IR(const Kvr32fc* pSrc, int srcStep, Kvr32fc* pSrcDst, int srcDstStep, KvriSize roiSize);
+KvrStatus kvriSub_32fc_AC4IR(const Kvr32fc* pSrc, int srcStep, Kvr32fc* pSrcDst, int srcDstStep, KvriSize roiSize);
+KvrStatus kvriSubC_8u_C1RSfs(const Kvr8u* pSrc, int srcStep, Kvr8u value, Kvr8u* pDst, int dstStep, KvriSize roiSize, int scaleFactor);
+KvrStatus kvriSubC_8u_C3RSfs(const Kvr8u* pSrc, int srcStep, const Kvr8u value[3], Kvr8u* pDst, int dstStep, KvriSize roiSize, int scaleFactor);
+KvrStatus kvriSubC_8u_C4RSfs(const Kvr8u* pSrc, int srcStep, const Kvr8u value[4], Kvr8u* pDst, int dstStep, KvriSize roiSize, int scaleFactor);
+KvrStatus kvriSubC_8u_AC4RSfs(const Kvr8u* pSrc, int srcStep, const Kvr8u value[3], Kvr8u* pDst, int dstStep, KvriSize roiSize, int scaleFactor);
+KvrStatus kvriSubC_8u_C1IRSfs(Kvr8u value, Kvr8u* pSrcDst, int srcDstStep, KvriSize roiSize, int scaleFactor);
+KvrStatus kvriSubC_8u_C3IRSfs(const Kvr8u value[3], Kvr8u* pSrcDst, int srcDstStep, KvriSize roiSize, int scaleFactor);
+KvrStatus kvriSubC_8u_C4IRSfs(const Kvr8u value[4], Kvr8u* pSrcDst, int srcDstStep, KvriSize roiSize, int scaleFactor);
+KvrStatus kvriSubC_8u_AC4IRSfs(const Kvr8u value[3], Kvr8u* pSrcDst, int srcDstStep, KvriSize roiSize, int scaleFactor);
+KvrStatus kvriSubC_16u_C1RSfs(const Kvr16u* pSrc, int srcStep, Kvr16u value, Kvr16u* pDst, int dstStep, KvriSize roiSize, int scaleFactor);
+KvrStatus kvriSubC_16u_C3RSfs(const Kvr16u* pSrc, int srcStep, const Kvr16u value[3], Kvr16u* pDst, int dstStep, KvriSize roiSize, int scaleFactor);
+KvrStatus kvriSubC_16u_C4RSfs(const Kvr16u* pSrc, int srcStep, const Kvr16u value[4], Kvr16u* pDst, int dstStep, KvriSize roiSize, int scaleFactor);
+KvrStatus kvriSubC_16u_AC4RSfs(const Kvr16u* pSrc, int srcStep, const Kvr16u value[3], Kvr16u* pDst, int dstStep, KvriSize roiSize, int scaleFactor);
+KvrStatus kvriSubC_16u_C1IRSfs(Kvr16u value, Kvr16u* pSrcDst, int srcDstStep, KvriSize roiSize, int scaleFactor);
+KvrStatus kvriSubC_16u_C3IRSfs(const Kvr16u value[3], Kvr16u* pSrcDst, int srcDstStep, KvriSize roiSize, int scaleFactor);
+KvrStatus kvriSubC_16u_C4IRSfs(const Kvr16u value[4], Kvr16u* pSrcDst, int srcDstStep, KvriSize roiSize, int scaleFactor);
+KvrStatus kvriSubC_16u_AC4IRSfs(const Kvr16u value[3], Kvr16u* pSrcDst, int srcDstStep, KvriSize roiSize, int scaleFactor);
+KvrStatus kvriSubC_16s_C1RSfs(const Kvr16s* pSrc, int srcStep, Kvr16s value, Kvr16s* pDst, int dstStep, KvriSize roiSize, int scaleFactor);
+KvrStatus kvriSubC_16s_C3RSfs(const Kvr16s* pSrc, int srcStep, const Kvr16s value[3], Kvr16s* pDst, int dstStep, KvriSize roiSize, int scaleFactor);
+KvrStatus kvriSubC_16s_C4RSfs(const Kvr16s* pSrc, int srcStep, const Kvr16s value[4], Kvr16s* pDst, int dstStep, KvriSize roiSize, int scaleFactor);
+KvrStatus kvriSubC_16s_AC4RSfs(const Kvr16s* pSrc, int srcStep, const Kvr16s value[3], Kvr16s* pDst, int dstStep, KvriSize roiSize, int scaleFactor);
+KvrStatus kvriSubC_16s_C1IRSfs(Kvr16s value, Kvr16s* pSrcDst, int srcDstStep, KvriSize roiSize, int scaleFactor);
+KvrStatus kvriSubC_16s_C3IRSfs(const Kvr16s value[3], Kvr16s* pSrcDst, int srcDstStep, KvriSize roiSize, int scaleFactor);
+KvrStatus kvriSubC_16s_C4IRSfs(const Kvr16s value[4], Kvr16s* pSrcDst, int srcDstStep, KvriSize roiSize, int scaleFactor);
+KvrStatus kvriSubC_16s_AC4IRSfs(const Kvr16s value[3], Kvr16s* pSrcDst, int srcDstStep, KvriSize roiSize, int scaleFactor);
+KvrStatus kvriSubC_16sc_C1RSfs(const Kvr16sc* pSrc, int srcStep, Kvr16sc value, Kvr16sc* pDst, int dstStep, KvriSize roiSize, int scaleFactor);
+KvrStatus kvriSubC_16sc_C3RSfs(const Kvr16sc* pSrc, int srcStep, const Kvr16sc value[3], Kvr16sc* pDst, int dstStep, KvriSize roiSize, int scaleFactor);
+KvrStatus kvriSubC_16sc_AC4RSfs(const Kvr16sc* pSrc, int srcStep, const Kvr16sc value[3], Kvr16sc* pDst, int dstStep, KvriSize roiSize, int scaleFactor);
+KvrStatus kvriSubC_16sc_C1IRSfs(Kvr16sc value, Kvr16sc* pSrcDst, int srcDstStep, KvriSize roiSize, int scaleFactor);
+KvrStatus kvriSubC_16sc_C3IRSfs(const Kvr16sc value[3], Kvr16sc* pSrcDst, int srcDstStep, KvriSize roiSize, int scaleFactor);
+KvrStatus kvriSubC_16sc_AC4IRSfs(const Kvr16sc value[3], Kvr16sc* pSrcDst, int srcDstStep, KvriSize roiSize, int scaleFactor);
+KvrStatus kvriSubC_32sc_C1RSfs(const Kvr32sc* pSrc, int srcStep, Kvr32sc value, Kvr32sc* pDst, int dstStep, KvriSize roiSize, int scaleFactor);
+KvrStatus kvriSubC_32sc_C3RSfs(const Kvr32sc* pSrc, int srcStep, const Kvr32sc value[3], Kvr32sc* pDst, int dstStep, KvriSize roiSize, int scaleFactor);
+KvrStatus kvriSubC_32sc_AC4RSfs(const Kvr32sc* pSrc, int srcStep, const Kvr32sc value[3], Kvr32sc* pDst, int dstStep, KvriSize roiSize, int scaleFactor);
+KvrStatus kvriSubC_32sc_C1IRSfs(Kvr32sc value, Kvr32sc* pSrcDst, int srcDstStep, KvriSize roiSize, int scaleFactor);
+KvrStatus kvriSubC_32sc_C3IRSfs(const Kvr32sc value[3], Kvr32sc* pSrcDst, int srcDstStep, KvriSize roiSize, int scaleFactor);
+KvrStatus kvriSubC_32sc_AC4IRSfs(const Kvr32sc value[3], Kvr32sc* pSrcDst, int srcDstStep, KvriSize roiSize, int scaleFactor);
+KvrStatus kvriSubC_32f_C1R(const Kvr32f* pSrc, int srcStep, Kvr32f value, Kvr32f* pDst, int dstStep, KvriSize roiSize);
+KvrStatus kvriSubC_32f_C3R(const Kvr32f* pSrc, int srcStep, const Kvr32f value[3], Kvr32f* pDst, int dstStep, KvriSize roiSize);
+KvrStatus kvriSubC_32f_C4R(const Kvr32f* pSrc, int srcStep, const Kvr32f value[4], Kvr32f* pDst, int dstStep, KvriSize roiSize);
+KvrStatus kvriSubC_32f_AC4R(const Kvr32f* pSrc, int srcStep, const Kvr32f value[3], Kvr32f* pDst, int dstStep, KvriSize roiSize);
+KvrStatus kvriSubC_32f_C1IR(Kvr32f value, Kvr32f* pSrcDst, int srcDstStep, KvriSize roiSize);
+KvrStatus kvriSubC_32f_C3IR(const Kvr32f value[3], Kvr32f* pSrcDst, int srcDstStep, KvriSize roiSize);
+KvrStatus kvriSubC_32f_C4IR(const Kvr32f value[4], Kvr32f* pSrcDst, int srcDstStep, KvriSize roiSize);
+KvrStatus kvriSubC_32f_AC4IR(const Kvr32f value[3], Kvr32f* pSrcDst, int srcDstStep, KvriSize roiSize);
+KvrStatus kvriSubC_32fc_C1R(const Kvr32fc* pSrc, int srcStep, Kvr32fc value, Kvr32fc* pDst, int dstStep, KvriSize roiSize);
+KvrStatus kvriSubC_32fc_C3R(const Kvr32fc* pSrc, int srcStep, const Kvr32fc value[3], Kvr32fc* pDst, int dstStep, KvriSize roiSize);
+KvrStatus kvriSubC_32fc_AC4R(const Kvr32fc* pSrc, int srcStep, const Kvr32fc value[3], Kvr32fc* pDst, int dstStep, KvriSize roiSize);
+KvrStatus kvriSubC_32fc_C1IR(Kvr32fc value, Kvr32fc* pSrcDst, int srcDstStep, KvriSize roiSize);
+KvrStatus kvriSubC_32fc_C3IR(const Kvr32fc value[3], Kvr32fc* pSrcDst, int srcDstStep, KvriSize roiSize);
+KvrStatus kvriSubC_32fc_AC4IR(const Kvr32fc value[3], Kvr32fc* pSrcDst, int srcDstStep, KvriSize roiSize);
+
+/* Mul, MulC - pSrc1 * pSrc2; pSrc * value. Complex: re = a.re * b.re - a.im * b.im, im = a.re * b.im + a.im * b.re, exact for
+ * integers, in single precision for 32fc.
+ * Errors as for Add. */
+KvrStatus kvriMul_8u_C1RSfs(const Kvr8u* pSrc1, int src1Step, const Kvr8u* pSrc2, int src2Step, Kvr8u* pDst, int dstStep, KvriSize roiSize, int scaleFactor);
+KvrStatus kvriMul_8u_C3RSfs(const Kvr8u* pSrc1, int src1Step, const Kvr8u* pSrc2, int src2Step, Kvr8u* pDst, int dstStep, KvriSize roiSize, int scaleFactor);
+KvrStatus kvriMul_8u_C4RSfs(const Kvr8u* pSrc1, int src1Step, const Kvr8u* pSrc2, int src2Step, Kvr8u* pDst, int dstStep, KvriSize roiSize, int scaleFactor);
+KvrStatus kvriMul_8u_AC4RSfs(const Kvr8u* pSrc1, int src1Step, const Kvr8u* pSrc2, int src2Step, Kvr8u* pDst, int dstStep, KvriSize roiSize, int scaleFactor);
+KvrStatus kvriMul_8u_C1IRSfs(const Kvr8u* pSrc, int srcStep, Kvr8u* pSrcDst, int srcDstStep, KvriSize roiSize, int scaleFactor);
+KvrStatus kvriMul_8u_C3IRSfs(const Kvr8u* pSrc, int srcStep, Kvr8u* pSrcDst, int srcDstStep, KvriSize roiSize, int scaleFactor);
+KvrStatus kvriMul_8u_C4IRSfs(const Kvr8u* pSrc, int srcStep, Kvr8u* pSrcDst, int srcDstStep, KvriSize roiSize, int scaleFactor);
+KvrStatus kvriMul_8u_AC4IRSfs(const Kvr8u* pSrc, int srcStep, Kvr8u* pSrcDst, int srcDstStep, KvriSize roiSize, int scaleFactor);
+KvrStatus kvriMul_16u_C1RSfs(const Kvr16u* pSrc1, int src1Step, const Kvr16u* pSrc2, int src2Step, Kvr16u* pDst, int dstStep, KvriSize roiSize, int scaleFactor);
+KvrStatus kvriMul_16u_C3RSfs(const Kvr16u* pSrc1, int src1Step, const Kvr16u* pSrc2, int src2Step, Kvr16u* pDst, int dstStep, KvriSize roiSize, int scaleFactor);
+KvrStatus kvriMul_16u_C4RSfs(const Kvr16u* pSrc1, int src1Step, const Kvr16u* pSrc2, int src2Step, Kvr16u* pDst, int dstStep, KvriSize roiSize, int scaleFactor);
+KvrStatus kvriMul_16u_AC4RSfs(const Kvr16u* pSrc1, int src1Step, const Kvr16u* pSrc2, int src2Step, Kvr16u* pDst, int dstStep, KvriSize roiSize, int scaleFactor);
+KvrStatus kvriMul_16u_C1IRSfs(const Kvr16u* pSrc, int srcStep, Kvr16u* pSrcDst, int srcDstStep, KvriSize roiSize, int scaleFactor);
+KvrStatus kvriMul_16u_C3IRSfs(const Kvr16u* pSrc, int srcStep, Kvr16u* pSrcDst, int srcDstStep, KvriSize roiSize, int scaleFactor);
+KvrStatus kvriMul_16u_C4IRSfs(const Kvr16u* pSrc, int srcStep, Kvr16u* pSrcDst, int srcDstStep, KvriSize roiSize, int scaleFactor);
+KvrStatus kvriMul_16u_AC4IRSfs(const Kvr16u* pSrc, int srcStep, Kvr16u* pSrcDst, int srcDstStep, KvriSize roiSize, int scaleFactor);
+KvrStatus kvriMul_16s_C1RSfs(const Kvr16s* pSrc1, int src1Step, const Kvr16s* pSrc2, int src2Step, Kvr16s* pDst, int dstStep, KvriSize roiSize, int scaleFactor);
+KvrStatus kvriMul_16s_C3RSfs(const Kvr16s* pSrc1, int src1Step, const Kvr16s* pSrc2, int src2Step, Kvr16s* pDst, int dstStep, KvriSize roiSize, int scaleFactor);
+KvrStatus kvriMul_16s_C4RSfs(const Kvr16s* pSrc1, int src1Step, const Kvr16s* pSrc2, int src2Step, Kvr16s* pDst, int dstStep, KvriSize roiSize, int scaleFactor);
+KvrStatus kvriMul_16s_AC4RSfs(const Kvr16s* pSrc1, int src1Step, const Kvr16s* pSrc2, int src2Step, Kvr16s* pDst, int dstStep, KvriSize roiSize, int scaleFactor);
+KvrStatus kvriMul_16s_C1IRSfs(const Kvr16s* pSrc, int srcStep, Kvr16s* pSrcDst, int srcDstStep, KvriSize roiSize, int scaleFactor);
+KvrStatus kvriMul_16s_C3IRSfs(const Kvr16s* pSrc, int srcStep, Kvr16s* pSrcDst, int srcDstStep, KvriSize roiSize, int scaleFactor);
+KvrStatus kvriMul_16s_C4IRSfs(const Kvr16s* pSrc, int srcStep, Kvr16s* pSrcDst, int srcDstStep, KvriSize roiSize, int scaleFactor);
+KvrStatus kvriMul_16s_AC4IRSfs(const Kvr16s* pSrc, int srcStep, Kvr16s* pSrcDst, int srcDstStep, KvriSize roiSize, int scaleFactor);
+KvrStatus kvriMul_16sc_C1RSfs(const Kvr16sc* pSrc1, int src1Step, const Kvr16sc* pSrc2, int src2Step, Kvr16sc* pDst, int dstStep, KvriSize roiSize, int scaleFactor);
+KvrStatus kvriMul_16sc_C3RSfs(const Kvr16sc* pSrc1, int src1Step, const Kvr16sc* pSrc2, int src2Step, Kvr16sc* pDst, int dstStep, KvriSize roiSize, int scaleFactor);
+KvrStatus kvriMul_16sc_AC4RSfs(const Kvr16sc* pSrc1, int src1Step, const Kvr16sc* pSrc2, int src2Step, Kvr16sc* pDst, int dstStep, KvriSize roiSize, int scaleFactor);
+KvrStatus kvriMul_16sc_C1IRSfs(const Kvr16sc* pSrc, int srcStep, Kvr16sc* pSrcDst, int srcDstStep, KvriSize roiSize, int scaleFactor);
+KvrStatus kvriMul_16sc_C3IRSfs(const Kvr16sc* pSrc, int srcStep, Kvr16sc* pSrcDst, int srcDstStep, KvriSize roiSize, int scaleFactor);
+KvrStatus kvriMul_16sc_AC4IRSfs(const Kvr16sc* pSrc, int srcStep, Kvr16sc* pSrcDst, int srcDstStep, KvriSize roiSize, int scaleFactor);
+KvrStatus kvriMul_32sc_C1RSfs(const Kvr32sc* pSrc1, int src1Step, const Kvr32sc* pSrc2, int src2Step, Kvr32sc* pDst, int dstStep, KvriSize roiSize, int scaleFactor);
+KvrStatus kvriMul_32sc_C3RSfs(const Kvr32sc* pSrc1, int src1Step, const Kvr32sc* pSrc2, int src2Step, Kvr32sc* pDst, int dstStep, KvriSize roiSize, int scaleFactor);
+KvrStatus kvriMul_32sc_AC4RSfs(const Kvr32sc* pSrc1, int src1Step, const Kvr32sc* pSrc2, int src2Step, Kvr32sc* pDst, int dstStep, KvriSize roiSize, int scaleFactor);
+KvrStatus kvriMul_32sc_C1IRSfs(const Kvr32sc* pSrc, int srcStep, Kvr32sc* pSrcDst, int srcDstStep, KvriSize roiSize, int scaleFactor);
+KvrStatus kvriMul_32sc_C3IRSfs(const Kvr32sc* pSrc, int srcStep, Kvr32sc* pSrcDst, int srcDstStep, KvriSize roiSize, int scaleFactor);
+KvrStatus kvriMul_32sc_AC4IRSfs(const Kvr32sc* pSrc, int srcStep, Kvr32sc* pSrcDst, int srcDstStep, KvriSize roiSize, int scaleFactor);
+KvrStatus kvriMul_32f_C1R(const Kvr32f* pSrc1, int src1Step, const Kvr32f* pSrc2, int src2Step, Kvr32f* pDst, int dstStep, KvriSize roiSize);
+KvrStatus kvriMul_32f_C3R(const Kvr32f* pSrc1, int src1Step, const Kvr32f* pSrc2, int src2Step, Kvr32f* pDst, int dstStep, KvriSize roiSize);
+KvrStatus kvriMul_32f_C4R(const Kvr32f* pSrc1, int src1Step, const Kvr32f* pSrc2, int src2Step, Kvr32f* pDst, int dstStep, KvriSize roiSize);
+KvrStatus kvriMul_32f_AC4R(const Kvr32f* pSrc1, int src1Step, const Kvr32f* pSrc2, int src2Step, Kvr32f* pDst, int dstStep, KvriSize roiSize);
+KvrStatus kvriMul_32f_C1IR(const Kvr32f* pSrc, int srcStep, Kvr32f* pSrcDst, int srcDstStep, KvriSize roiSize);
+KvrStatus kvriMul_32f_C3IR(const Kvr32f* pSrc, int srcStep, Kvr32f* pSrcDst, int srcDstStep, KvriSize roiSize);
+KvrStatus kvriMul_32f_C4IR(const Kvr32f* pSrc, int srcStep, Kvr32f* pSrcDst, int srcDstStep, KvriSize roiSize);
+KvrStatus kvriMul_32f_AC4IR(const Kvr32f* pSrc, int srcStep, Kvr32f* pSrcDst, int srcDstStep, KvriSize roiSize);
+KvrStatus kvriMul_32fc_C1R(const Kvr32fc* pSrc1, int src1Step, const Kvr32fc* pSrc2, int src2Step, Kvr32fc* pDst, int dstStep, KvriSize roiSize);
+KvrStatus kvriMul_32fc_C3R(const Kvr32fc* pSrc1, int src1Step, const Kvr32fc* pSrc2, int src2Step, Kvr32fc* pDst, int dstStep, KvriSize roiSize);
+KvrStatus kvriMul_32fc_AC4R(const Kvr32fc* pSrc1, int src1Step, const Kvr32fc* pSrc2, int src2Step, Kvr32fc* pDst, int dstStep, KvriSize roiSize);
+KvrStatus kvriMul_32fc_C1IR(const Kvr32fc* pSrc, int srcStep, Kvr32fc* pSrcDst, int srcDstStep, KvriSize roiSize);
+KvrStatus kvriMul_32fc_C3IR(const Kvr32fc* pSrc, int srcStep, Kvr32fc* pSrcDst, int srcDstStep, KvriSize roiSize);
+KvrStatus kvriMul_32fc_AC4IR(const Kvr32fc* pSrc, int srcStep, Kvr32fc* pSrcDst, int srcDstStep, KvriSize roiSize);
+KvrStatus kvriMulC_8u_C1RSfs(const Kvr8u* pSrc, int srcStep, Kvr8u value, Kvr8u* pDst, int dstStep, KvriSize roiSize, int scaleFactor);
+KvrStatus kvriMulC_8u_C3RSfs(const Kvr8u* pSrc, int srcStep, const Kvr8u value[3], Kvr8u* pDst, int dstStep, KvriSize roiSize, int scaleFactor);
+KvrStatus kvriMulC_8u_C4RSfs(const Kvr8u* pSrc, int srcStep, const Kvr8u value[4], Kvr8u* pDst, int dstStep, KvriSize roiSize, int scaleFactor);
+KvrStatus kvriMulC_8u_AC4RSfs(const Kvr8u* pSrc, int srcStep, const Kvr8u value[3], Kvr8u* pDst, int dstStep, KvriSize roiSize, int scaleFactor);
+KvrStatus kvriMulC_8u_C1IRSfs(Kvr8u value, Kvr8u* pSrcDst, int srcDstStep, KvriSize roiSize, int scaleFactor);
+KvrStatus kvriMulC_8u_C3IRSfs(const Kvr8u value[3], Kvr8u* pSrcDst, int srcDstStep, KvriSize roiSize, int scaleFactor);
+KvrStatus kvriMulC_8u_C4IRSfs(const Kvr8u value[4], Kvr8u* pSrcDst, int srcDstStep, KvriSize roiSize, int scaleFactor);
+KvrStatus kvriMulC_8u_AC4IRSfs(const Kvr8u value[3], Kvr8u* pSrcDst, int srcDstStep, KvriSize roiSize, int scaleFactor);
+KvrStatus kvriMulC_16u_C1RSfs(const Kvr16u* pSrc, int srcStep, Kvr16u value, Kvr16u* pDst, int dstStep, KvriSize roiSize, int scaleFactor);
+KvrStatus kvriMulC_16u_C3RSfs(const Kvr16u* pSrc, int srcStep, const Kvr16u value[3], Kvr16u* pDst, int dstStep, KvriSize roiSize, int scaleFactor);
+KvrStatus kvriMulC_16u_C4RSfs(const Kvr16u* pSrc, int srcStep, const Kvr16u value[4], Kvr16u* pDst, int dstStep, KvriSize roiSize, int scaleFactor);
+KvrStatus kvriMulC_16u_AC4RSfs(const Kvr16u* pSrc, int srcStep, const Kvr16u value[3], Kvr16u* pDst, int dstStep, KvriSize roiSize, int scaleFactor);
+KvrStatus kvriMulC_16u_C1IRSfs(Kvr16u value, Kvr16u* pSrcDst, int srcDstStep, KvriSize roiSize, int scaleFactor);
+KvrStatus kvriMulC_16u_C3IRSfs(const Kvr16u value[3], Kvr16u* pSrcDst, int srcDstStep, KvriSize roiSize, int scaleFactor);
+KvrStatus kvriMulC_16u_C4IRSfs(const Kvr16u value[4], Kvr16u* pSrcDst, int srcDstStep, KvriSize roiSize, int scaleFactor);
+KvrStatus kvriMulC_16u_AC4IRSfs(const Kvr16u value[3], Kvr16u* pSrcDst, int srcDstStep, KvriSize roiSize, int scaleFactor);
+KvrStatus kvriMulC_16s_C1RSfs(const Kvr16s* pSrc, int srcStep, Kvr16s value, Kvr16s* pDst, int dstStep, KvriSize roiSize, int scaleFactor);
+KvrStatus kvriMulC_16s_C3RSfs(const Kvr16s* pSrc, int srcStep, const Kvr16s value[3], Kvr16s* pDst, int dstStep, KvriSize roiSize, int scaleFactor);
+KvrStatus kvriMulC_16s_C4RSfs(const Kvr16s* pSrc, int srcStep, const Kvr16s value[4], Kvr16s* pDst, int dstStep, KvriSize roiSize, int scaleFactor);
+KvrStatus kvriMulC_16s_AC4RSfs(const Kvr16s* pSrc, int srcStep, const Kvr16s value[3], Kvr16s* pDst, int dstStep, KvriSize roiSize, int scaleFactor);
+KvrStatus kvriMulC_16s_C1IRSfs(Kvr16s value, Kvr16s* pSrcDst, int srcDstStep, KvriSize roiSize, int scaleFactor);
+KvrStatus kvriMulC_16s_C3IRSfs(const Kvr16s value[3], Kvr16s* pSrcDst, int srcDstStep, KvriSize roiSize, int scaleFactor);
+KvrStatus kvriMulC_16s_C4IRSfs(const Kvr16s value[4], Kvr16s* pSrcDst, int srcDstStep, KvriSize roiSize, int scaleFactor);
+KvrStatus kvriMulC_16s_AC4IRSfs(const Kvr16s value[3], Kvr16s* pSrcDst, int srcDstStep, KvriSize roiSize, int scaleFactor);
+KvrStatus kvriMulC_16sc_C1RSfs(const Kvr16sc* pSrc, int srcStep, Kvr16sc value, Kvr16sc* pDst, int dstStep, KvriSize roiSize, int scaleFactor);
+KvrStatus kvriMulC_16sc_C3RSfs(const Kvr16sc* pSrc, int srcStep, const Kvr16sc value[3], Kvr16sc* pDst, int dstStep, KvriSize roiSize, int scaleFactor);
+KvrStatus kvriMulC_16sc_AC4RSfs(const Kvr16sc* pSrc, int srcStep, const Kvr16sc value[3], Kvr16sc* pDst, int dstStep, KvriSize roiSize, int scaleFactor);
+KvrStatus kvriMulC_16sc_C1IRSfs(Kvr16sc value, Kvr16sc* pSrcDst, int srcDstStep, KvriSize roiSize, int scaleFactor);
+KvrStatus kvriMulC_16sc_C3IRSfs(const Kvr16sc value[3], Kvr16sc* pSrcDst, int srcDstStep, KvriSize roiSize, int scaleFactor);
+KvrStatus kvriMulC_16sc_AC4IRSfs(const Kvr16sc value[3], Kvr16sc* pSrcDst, int srcDstStep, KvriSize roiSize, int scaleFactor);
+KvrStatus kvriMulC_32sc_C1RSfs(const Kvr32sc* pSrc, int srcStep, Kvr32sc value, Kvr32sc* pDst, int dstStep, KvriSize roiSize, int scaleFactor);
+KvrStatus kvriMulC_32sc_C3RSfs(const Kvr32sc* pSrc, int srcStep, const Kvr32sc value[3], Kvr32sc* pDst, int dstStep, KvriSize roiSize, int scaleFactor);
+KvrStatus kvriMulC_32sc_AC4RSfs(const Kvr32sc* pSrc, int srcStep, const Kvr32sc value[3], Kvr32sc* pDst, int dstStep, KvriSize roiSize, int scaleFactor);
+KvrStatus kvriMulC_32sc_C1IRSfs(Kvr32sc value, Kvr32sc* pSrcDst, int srcDstStep, KvriSize roiSize, int scaleFactor);
+KvrStatus kvriMulC_32sc_C3IRSfs(const Kvr32sc value[3], Kvr32sc* pSrcDst, int srcDstStep, KvriSize roiSize, int scaleFactor);
+KvrStatus kvriMulC_32sc_AC4IRSfs(const Kvr32sc value[3], Kvr32sc* pSrcDst, int srcDstStep, KvriSize roiSize, int scaleFactor);
+KvrStatus kvriMulC_32f_C1R(const Kvr32f* pSrc, int srcStep, Kvr32f value, Kvr32f* pDst, int dstStep, KvriSize roiSize);
+KvrStatus kvriMulC_32f_C3R(const Kvr32f* pSrc, int srcStep, const Kvr32f value[3], Kvr32f* pDst, int dstStep, KvriSize roiSize);
+KvrStatus kvriMulC_32f_C4R(const Kvr32f* pSrc, int srcStep, const Kvr32f value[4], Kvr32f* pDst, int dstStep, KvriSize roiSize);
+KvrStatus kvriMulC_32f_AC4R(const Kvr32f* pSrc, int srcStep, const Kvr32f value[3], Kvr32f* pDst, int dstStep, KvriSize roiSize);
+KvrStatus kvriMulC_32f_C1IR(Kvr32f value, Kvr32f* pSrcDst, int srcDstStep, KvriSize roiSize);
+KvrStatus kvriMulC_32f_C3IR(const Kvr32f value[3], Kvr32f* pSrcDst, int srcDstStep, KvriSize roiSize);
+KvrStatus kvriMulC_32f_C4IR(const Kvr32f value[4], Kvr32f* pSrcDst, int srcDstStep, KvriSize roiSize);
+KvrStatus kvriMulC_32f_AC4IR(const Kvr32f value[3], Kvr32f* pSrcDst, int srcDstStep, KvriSize roiSize);
+KvrStatus kvriMulC_32fc_C1R(const Kvr32fc* pSrc, int srcStep, Kvr32fc value, Kvr32fc* pDst, int dstStep, KvriSize roiSize);
+KvrStatus kvriMulC_32fc_C3R(const Kvr32fc* pSrc, int srcStep, const Kvr32fc value[3], Kvr32fc* pDst, int dstStep, KvriSize roiSize);
+KvrStatus kvriMulC_32fc_AC4R(const Kvr32fc* pSrc, int srcStep, const Kvr32fc value[3], Kvr32fc* pDst, int dstStep, KvriSize roiSize);
+KvrStatus kvriMulC_32fc_C1IR(Kvr32fc value, Kvr32fc* pSrcDst, int srcDstStep, KvriSize roiSize);
+KvrStatus kvriMulC_32fc_C3IR(const Kvr32fc value[3], Kvr32fc* pSrcDst, int srcDstStep, KvriSize roiSize);
+KvrStatus kvriMulC_32fc_AC4IR(const Kvr32fc value[3], Kvr32fc* pSrcDst, int srcDstStep, KvriSize roiSize);
+
+/* MulScale, MulCScale - products of samples as fractions of the type's maximum: t = a * b gives (t + 1 + (t >> 8)) >> 8 for 8u,
+ * (t + 1 + (t >> 16)) >> 16 for 16u. The maximum times x is x.
+ * Errors, in this order: null pointer -8 (the array of constants counts), step below 1 -14, width or height below 1 -6. */
+KvrStatus kvriMulScale_8u_C1R(const Kvr8u* pSrc1, int src1Step, const Kvr8u* pSrc2, int src2Step, Kvr8u* pDst, int dstStep, KvriSize roiSize);
+KvrStatus kvriMulScale_8u_C3R(const Kvr8u* pSrc1, int src1Step, const Kvr8u* pSrc2, int src2Step, Kvr8u* pDst, int dstStep, KvriSize roiSize);
+KvrStatus kvriMulScale_8u_C4R(const Kvr8u* pSrc1, int src1Step, const Kvr8u* pSrc2, int src2Step, Kvr8u* pDst, int dstStep, KvriSize roiSize);
+KvrStatus kvriMulScale_8u_AC4R(const Kvr8u* pSrc1, int src1Step, const Kvr8u* pSrc2, int src2Step, Kvr8u* pDst, int dstStep, KvriSize roiSize);
+KvrStatus kvriMulScale_8u_C1IR(const Kvr8u* pSrc, int srcStep, Kvr8u* pSrcDst, int srcDstStep, KvriSize roiSize);
+KvrStatus kvriMulScale_8u_C3IR(const Kvr8u* pSrc, int srcStep, Kvr8u* pSrcDst, int srcDstStep, KvriSize roiSize);
+KvrStatus kvriMulScale_8u_C4IR(const Kvr8u* pSrc, int srcStep, Kvr8u* pSrcDst, int srcDstStep, KvriSize roiSize);
+KvrStatus kvriMulScale_8u_AC4IR(const Kvr8u* pSrc, int srcStep, Kvr8u* pSrcDst, int srcDstStep, KvriSize roiSize);
+KvrStatus kvriMulScale_16u_C1R(const Kvr16u* pSrc1, int src1Step, const Kvr16u* pSrc2, int src2Step, Kvr16u* pDst, int dstStep, KvriSize roiSize);
+KvrStatus kvriMulScale_16u_C3R(const Kvr16u* pSrc1, int src1Step, const Kvr16u* pSrc2, int src2Step, Kvr16u* pDst, int dstStep, KvriSize roiSize);
+KvrStatus kvriMulScale_16u_C4R(const Kvr16u* pSrc1, int src1Step, const Kvr16u* pSrc2, int src2Step, Kvr16u* pDst, int dstStep, KvriSize roiSize);
+KvrStatus kvriMulScale_16u_AC4R(const Kvr16u* pSrc1, int src1Step, const Kvr16u* pSrc2, int src2Step, Kvr16u* pDst, int dstStep, KvriSize roiSize);
+KvrStatus kvriMulScale_16u_C1IR(const Kvr16u* pSrc, int srcStep, Kvr16u* pSrcDst, int srcDstStep, KvriSize roiSize);
+KvrStatus kvriMulScale_16u_C3IR(const Kvr16u* pSrc, int srcStep, Kvr16u* pSrcDst, int srcDstStep, KvriSize roiSize);
+KvrStatus kvriMulScale_16u_C4IR(const Kvr16u* pSrc, int srcStep, Kvr16u* pSrcDst, int srcDstStep, KvriSize roiSize);
+KvrStatus kvriMulScale_16u_AC4IR(const Kvr16u* pSrc, int srcStep, Kvr16u* pSrcDst, int srcDstStep, KvriSize roiSize);
+KvrStatus kvriMulCScale_8u_C1R(const Kvr8u* pSrc, int srcStep, Kvr8u value, Kvr8u* pDst, int dstStep, KvriSize roiSize);
+KvrStatus kvriMulCScale_8u_C3R(const Kvr8u* pSrc, int srcStep, const Kvr8u value[3], Kvr8u* pDst, int dstStep, KvriSize roiSize);
+KvrStatus kvriMulCScale_8u_C4R(const Kvr8u* pSrc, int srcStep, const Kvr8u value[4], Kvr8u* pDst, int dstStep, KvriSize roiSize);
+KvrStatus kvriMulCScale_8u_AC4R(const Kvr8u* pSrc, int srcStep, const Kvr8u value[3], Kvr8u* pDst, int dstStep, KvriSize roiSize);
+KvrStatus kvriMulCScale_8u_C1IR(Kvr8u value, Kvr8u* pSrcDst, int srcDstStep, KvriSize roiSize);
+KvrStatus kvriMulCScale_8u_C3IR(const Kvr8u value[3], Kvr8u* pSrcDst, int srcDstStep, KvriSize roiSize);
+KvrStatus kvriMulCScale_8u_C4IR(const Kvr8u value[4], Kvr8u* pSrcDst, int srcDstStep, KvriSize roiSize);
+KvrStatus kvriMulCScale_8u_AC4IR(const Kvr8u value[3], Kvr8u* pSrcDst, int srcDstStep, KvriSize roiSize);
+KvrStatus kvriMulCScale_16u_C1R(const Kvr16u* pSrc, int srcStep, Kvr16u value, Kvr16u* pDst, int dstStep, KvriSize roiSize);
+KvrStatus kvriMulCScale_16u_C3R(const Kvr16u* pSrc, int srcStep, const Kvr16u value[3], Kvr16u* pDst, int dstStep, KvriSize roiSize);
+KvrStatus kvriMulCScale_16u_C4R(const Kvr16u* pSrc, int srcStep, const Kvr16u value[4], Kvr16u* pDst, int dstStep, KvriSize roiSize);
+KvrStatus kvriMulCScale_16u_AC4R(const Kvr16u* pSrc, int srcStep, const Kvr16u value[3], Kvr16u* pDst, int dstStep, KvriSize roiSize);
+KvrStatus kvriMulCScale_16u_C1IR(Kvr16u value, Kvr16u* pSrcDst, int srcDstStep, KvriSize roiSize);
+KvrStatus kvriMulCScale_16u_C3IR(const Kvr16u value[3], Kvr16u* pSrcDst, int srcDstStep, KvriSize roiSize);
+KvrStatus kvriMulCScale_16u_C4IR(const Kvr16u value[4], Kvr16u* pSrcDst, int srcDstStep, KvriSize roiSize);
+KvrStatus kvriMulCScale_16u_AC4IR(const Kvr16u value[3], Kvr16u* pSrcDst, int srcDstStep, KvriSize roiSize);
+
+/* Div, DivC - pSrc2 / pSrc1: the first source is the divisor; pSrcDst / pSrc; pSrc / value.
+ * Integers: the dividend times 2^-scaleFactor, divided by the divisor in IEEE single precision, then rounded and saturated. A
+ * divisor of 0 gives the type's maximum for a positive dividend, its minimum for a negative one and 0 for 0.
+ * 32f: IEEE division; by a zero of either sign a non-zero number gives infinity with the sign of the dividend, zero gives
+ * the NaN 0x7FBFFFFF.
+ * Complex: (a.re + i a.im) * conj(b) / (b.re^2 + b.im^2) in double precision, every operation rounded; 32fc rounded once to
+ * single. A divisor with both parts 0 follows the rules above part by part.
+ * Any zero divisor among the processed channels gives the warning 6; the whole result is written.
+ * Errors, in this order: null pointer -8 (the array of constants counts), width or height below 1 -6, step below 1 -14, DivC:
+ * any constant 0 (complex: both parts) -10. */
+KvrStatus kvriDiv_8u_C1RSfs(const Kvr8u* pSrc1, int src1Step, const Kvr8u* pSrc2, int src2Step, Kvr8u* pDst, int dstStep, KvriSize roiSize, int scaleFactor);
+KvrStatus kvriDiv_8u_C3RSfs(const Kvr8u* pSrc1, int src1Step, const Kvr8u* pSrc2, int src2Step, Kvr8u* pDst, int dstStep, KvriSize roiSize, int scaleFactor);
+KvrStatus kvriDiv_8u_C4RSfs(const Kvr8u* pSrc1, int src1Step, const Kvr8u* pSrc2, int src2Step, Kvr8u* pDst, int dstStep, KvriSize roiSize, int scaleFactor);
+KvrStatus kvriDiv_8u_AC4RSfs(const Kvr8u* pSrc1, int src1Step, const Kvr8u* pSrc2, int src2Step, Kvr8u* pDst, int dstStep, KvriSize roiSize, int scaleFactor);
+KvrStatus kvriDiv_8u_C1IRSfs(const Kvr8u* pSrc, int srcStep, Kvr8u* pSrcDst, int srcDstStep, KvriSize roiSize, int scaleFactor);
+KvrStatus kvriDiv_8u_C3IRSfs(const Kvr8u* pSrc, int srcStep, Kvr8u* pSrcDst, int srcDstStep, KvriSize roiSize, int scaleFactor);
+KvrStatus kvriDiv_8u_C4IRSfs(const Kvr8u* pSrc, int srcStep, Kvr8u* pSrcDst, int srcDstStep, KvriSize roiSize, int scaleFactor);
+KvrStatus kvriDiv_8u_AC4IRSfs(const Kvr8u* pSrc, int srcStep, Kvr8u* pSrcDst, int srcDstStep, KvriSize roiSize, int scaleFactor);
+KvrStatus kvriDiv_16u_C1RSfs(const Kvr16u* pSrc1, int src1Step, const Kvr16u* pSrc2, int src2Step, Kvr16u* pDst, int dstStep, KvriSize roiSize, int scaleFactor);
+KvrStatus kvriDiv_16u_C3RSfs(const Kvr16u* pSrc1, int src1Step, const Kvr16u* pSrc2, int src2Step, Kvr16u* pDst, int dstStep, KvriSize roiSize, int scaleFactor);
+KvrStatus kvriDiv_16u_C4RSfs(const Kvr16u* pSrc1, int src1Step, const Kvr16u* pSrc2, int src2Step, Kvr16u* pDst, int dstStep, KvriSize roiSize, int scaleFactor);
+KvrStatus kvriDiv_16u_AC4RSfs(const Kvr16u* pSrc1, int src1Step, const Kvr16u* pSrc2, int src2Step, Kvr16u* pDst, int dstStep, KvriSize roiSize, int scaleFactor);
+KvrStatus kvriDiv_16u_C1IRSfs(const Kvr16u* pSrc, int srcStep, Kvr16u* pSrcDst, int srcDstStep, KvriSize roiSize, int scaleFactor);
+KvrStatus kvriDiv_16u_C3IRSfs(const Kvr16u* pSrc, int srcStep, Kvr16u* pSrcDst, int srcDstStep, KvriSize roiSize, int scaleFactor);
+KvrStatus kvriDiv_16u_C4IRSfs(const Kvr16u* pSrc, int srcStep, Kvr16u* pSrcDst, int srcDstStep, KvriSize roiSize, int scaleFactor);
+KvrStatus kvriDiv_16u_AC4IRSfs(const Kvr16u* pSrc, int srcStep, Kvr16u* pSrcDst, int srcDstStep, KvriSize roiSize, int scaleFactor);
+KvrStatus kvriDiv_16s_C1RSfs(const Kvr16s* pSrc1, int src1Step, const Kvr16s* pSrc2, int src2Step, Kvr16s* pDst, int dstStep, KvriSize roiSize, int scaleFactor);
+KvrStatus kvriDiv_16s_C3RSfs(const Kvr16s* pSrc1, int src1Step, const Kvr16s* pSrc2, int src2Step, Kvr16s* pDst, int dstStep, KvriSize roiSize, int scaleFactor);
+KvrStatus kvriDiv_16s_C4RSfs(const Kvr16s* pSrc1, int src1Step, const Kvr16s* pSrc2, int src2Step, Kvr16s* pDst, int dstStep, KvriSize roiSize, int scaleFactor);
+KvrStatus kvriDiv_16s_AC4RSfs(const Kvr16s* pSrc1, int src1Step, const Kvr16s* pSrc2, int src2Step, Kvr16s* pDst, int dstStep, KvriSize roiSize, int scaleFactor);
+KvrStatus kvriDiv_16s_C1IRSfs(const Kvr16s* pSrc, int srcStep, Kvr16s* pSrcDst, int srcDstStep, KvriSize roiSize, int scaleFactor);
+KvrStatus kvriDiv_16s_C3IRSfs(const Kvr16s* pSrc, int srcStep, Kvr16s* pSrcDst, int srcDstStep, KvriSize roiSize, int scaleFactor);
+KvrStatus kvriDiv_16s_C4IRSfs(const Kvr16s* pSrc, int srcStep, Kvr16s* pSrcDst, int srcDstStep, KvriSize roiSize, int scaleFactor);
+KvrStatus kvriDiv_16s_AC4IRSfs(const Kvr16s* pSrc, int srcStep, Kvr16s* pSrcDst, int srcDstStep, KvriSize roiSize, int scaleFactor);
+KvrStatus kvriDiv_16sc_C1RSfs(const Kvr16sc* pSrc1, int src1Step, const Kvr16sc* pSrc2, int src2Step, Kvr16sc* pDst, int dstStep, KvriSize roiSize, int scaleFactor);
+KvrStatus kvriDiv_16sc_C3RSfs(const Kvr16sc* pSrc1, int src1Step, const Kvr16sc* pSrc2, int src2Step, Kvr16sc* pDst, int dstStep, KvriSize roiSize, int scaleFactor);
+KvrStatus kvriDiv_16sc_AC4RSfs(const Kvr16sc* pSrc1, int src1Step, const Kvr16sc* pSrc2, int src2Step, Kvr16sc* pDst, int dstStep, KvriSize roiSize, int scaleFactor);
+KvrStatus kvriDiv_16sc_C1IRSfs(const Kvr16sc* pSrc, int srcStep, Kvr16sc* pSrcDst, int srcDstStep, KvriSize roiSize, int scaleFactor);
+KvrStatus kvriDiv_16sc_C3IRSfs(const Kvr16sc* pSrc, int srcStep, Kvr16sc* pSrcDst, int srcDstStep, KvriSize roiSize, int scaleFactor);
+KvrStatus kvriDiv_16sc_AC4IRSfs(const Kvr16sc* pSrc, int srcStep, Kvr16sc* pSrcDst, int srcDstStep, KvriSize roiSize, int scaleFactor);
+KvrStatus kvriDiv_32sc_C1RSfs(const Kvr32sc* pSrc1, int src1Step, const Kvr32sc* pSrc2, int src2Step, Kvr32sc* pDst, int dstStep, KvriSize roiSize, int scaleFactor);
+KvrStatus kvriDiv_32sc_C3RSfs(const Kvr32sc* pSrc1, int src1Step, const Kvr32sc* pSrc2, int src2Step, Kvr32sc* pDst, int dstStep, KvriSize roiSize, int scaleFactor);
+KvrStatus kvriDiv_32sc_AC4RSfs(const Kvr32sc* pSrc1, int src1Step, const Kvr32sc* pSrc2, int src2Step, Kvr32sc* pDst, int dstStep, KvriSize roiSize, int scaleFactor);
+KvrStatus kvriDiv_32sc_C1IRSfs(const Kvr32sc* pSrc, int srcStep, Kvr32sc* pSrcDst, int srcDstStep, KvriSize roiSize, int scaleFactor);
+KvrStatus kvriDiv_32sc_C3IRSfs(const Kvr32sc* pSrc, int srcStep, Kvr32sc* pSrcDst, int srcDstStep, KvriSize roiSize, int scaleFactor);
+KvrStatus kvriDiv_32sc_AC4IRSfs(const Kvr32sc* pSrc, int srcStep, Kvr32sc* pSrcDst, int srcDstStep, KvriSize roiSize, int scaleFactor);
+KvrStatus kvriDiv_32f_C1R(const Kvr32f* pSrc1, int src1Step, const Kvr32f* pSrc2, int src2Step, Kvr32f* pDst, int dstStep, KvriSize roiSize);
+KvrStatus kvriDiv_32f_C3R(const Kvr32f* pSrc1, int src1Step, const Kvr32f* pSrc2, int src2Step, Kvr32f* pDst, int dstStep, KvriSize roiSize);
+KvrStatus kvriDiv_32f_C4R(const Kvr32f* pSrc1, int src1Step, const Kvr32f* pSrc2, int src2Step, Kvr32f* pDst, int dstStep, KvriSize roiSize);
+KvrStatus kvriDiv_32f_AC4R(const Kvr32f* pSrc1, int src1Step, const Kvr32f* pSrc2, int src2Step, Kvr32f* pDst, int dstStep, KvriSize roiSize);
+KvrStatus kvriDiv_32f_C1IR(const Kvr32f* pSrc, int srcStep, Kvr32f* pSrcDst, int srcDstStep, KvriSize roiSize);
+KvrStatus kvriDiv_32f_C3IR(const Kvr32f* pSrc, int srcStep, Kvr32f* pSrcDst, int srcDstStep, KvriSize roiSize);
+KvrStatus kvriDiv_32f_C4IR(const Kvr32f* pSrc, int srcStep, Kvr32f* pSrcDst, int srcDstStep, KvriSize roiSize);
+KvrStatus kvriDiv_32f_AC4IR(const Kvr32f* pSrc, int srcStep, Kvr32f* pSrcDst, int srcDstStep, KvriSize roiSize);
+KvrStatus kvriDiv_32fc_C1R(const Kvr32fc* pSrc1, int src1Step, const Kvr32fc* pSrc2, int src2Step, Kvr32fc* pDst, int dstStep, KvriSize roiSize);
+KvrStatus kvriDiv_32fc_C3R(const Kvr32fc* pSrc1, int src1Step, const Kvr32fc* pSrc2, int src2Step, Kvr32fc* pDst, int dstStep, KvriSize roiSize);
+KvrStatus kvriDiv_32fc_AC4R(const Kvr32fc* pSrc1, int src1Step, const Kvr32fc* pSrc2, int src2Step, Kvr32fc* pDst, int dstStep, KvriSize roiSize);
+KvrStatus kvriDiv_32fc_C1IR(const Kvr32fc* pSrc, int srcStep, Kvr32fc* pSrcDst, int srcDstStep, KvriSize roiSize);
+KvrStatus kvriDiv_32fc_C3IR(const Kvr32fc* pSrc, int srcStep, Kvr32fc* pSrcDst, int srcDstStep, KvriSize roiSize);
+KvrStatus kvriDiv_32fc_AC4IR(const Kvr32fc* pSrc, int srcStep, Kvr32fc* pSrcDst, int srcDstStep, KvriSize roiSize);
+KvrStatus kvriDivC_8u_C1RSfs(const Kvr8u* pSrc, int srcStep, Kvr8u value, Kvr8u* pDst, int dstStep, KvriSize roiSize, int scaleFactor);
+KvrStatus kvriDivC_8u_C3RSfs(const Kvr8u* pSrc, int srcStep, const Kvr8u value[3], Kvr8u* pDst, int dstStep, KvriSize roiSize, int scaleFactor);
+KvrStatus kvriDivC_8u_C4RSfs(const Kvr8u* pSrc, int srcStep, const Kvr8u value[4], Kvr8u* pDst, int dstStep, KvriSize roiSize, int scaleFactor);
+KvrStatus kvriDivC_8u_AC4RSfs(const Kvr8u* pSrc, int srcStep, const Kvr8u value[3], Kvr8u* pDst, int dstStep, KvriSize roiSize, int scaleFactor);
+KvrStatus kvriDivC_8u_C1IRSfs(Kvr8u value, Kvr8u* pSrcDst, int srcDstStep, KvriSize roiSize, int scaleFactor);
+KvrStatus kvriDivC_8u_C3IRSfs(const Kvr8u value[3], Kvr8u* pSrcDst, int srcDstStep, KvriSize roiSize, int scaleFactor);
+KvrStatus kvriDivC_8u_C4IRSfs(const Kvr8u value[4], Kvr8u* pSrcDst, int srcDstStep, KvriSize roiSize, int scaleFactor);
+KvrStatus kvriDivC_8u_AC4IRSfs(const Kvr8u value[3], Kvr8u* pSrcDst, int srcDstStep, KvriSize roiSize, int scaleFactor);
+KvrStatus kvriDivC_16u_C1RSfs(const Kvr16u* pSrc, int srcStep, Kvr16u value, Kvr16u* pDst, int dstStep, KvriSize roiSize, int scaleFactor);
+KvrStatus kvriDivC_16u_C3RSfs(const Kvr16u* pSrc, int srcStep, const Kvr16u value[3], Kvr16u* pDst, int dstStep, KvriSize roiSize, int scaleFactor);
+KvrStatus kvriDivC_16u_C4RSfs(const Kvr16u* pSrc, int srcStep, const Kvr16u value[4], Kvr16u* pDst, int dstStep, KvriSize roiSize, int scaleFactor);
+KvrStatus kvriDivC_16u_AC4RSfs(const Kvr16u* pSrc, int srcStep, const Kvr16u value[3], Kvr16u* pDst, int dstStep, KvriSize roiSize, int scaleFactor);
+KvrStatus kvriDivC_16u_C1IRSfs(Kvr16u value, Kvr16u* pSrcDst, int srcDstStep, KvriSize roiSize, int scaleFactor);
+KvrStatus kvriDivC_16u_C3IRSfs(const Kvr16u value[3], Kvr16u* pSrcDst, int srcDstStep, KvriSize roiSize, int scaleFactor);
+KvrStatus kvriDivC_16u_C4IRSfs(const Kvr16u value[4], Kvr16u* pSrcDst, int srcDstStep, KvriSize roiSize, int scaleFactor);
+KvrStatus kvriDivC_16u_AC4IRSfs(const Kvr16u value[3], Kvr16u* pSrcDst, int srcDstStep, KvriSize roiSize, int scaleFactor);
+KvrStatus kvriDivC_16s_C1RSfs(const Kvr16s* pSrc, int srcStep, Kvr16s value, Kvr16s* pDst, int dstStep, KvriSize roiSize, int scaleFactor);
+KvrStatus kvriDivC_16s_C3RSfs(const Kvr16s* pSrc, int srcStep, const Kvr16s value[3], Kvr16s* pDst, int dstStep, KvriSize roiSize, int scaleFactor);
+KvrStatus kvriDivC_16s_C4RSfs(const Kvr16s* pSrc, int srcStep, const Kvr16s value[4], Kvr16s* pDst, int dstStep, KvriSize roiSize, int scaleFactor);
+KvrStatus kvriDivC_16s_AC4RSfs(const Kvr16s* pSrc, int srcStep, const Kvr16s value[3], Kvr16s* pDst, int dstStep, KvriSize roiSize, int scaleFactor);
+KvrStatus kvriDivC_16s_C1IRSfs(Kvr16s value, Kvr16s* pSrcDst, int srcDstStep, KvriSize roiSize, int scaleFactor);
+KvrStatus kvriDivC_16s_C3IRSfs(const Kvr16s value[3], Kvr16s* pSrcDst, int srcDstStep, KvriSize roiSize, int scaleFactor);
+KvrStatus kvriDivC_16s_C4IRSfs(const Kvr16s value[4], Kvr16s* pSrcDst, int srcDstStep, KvriSize roiSize, int scaleFactor);
+KvrStatus kvriDivC_16s_AC4IRSfs(const Kvr16s value[3], Kvr16s* pSrcDst, int srcDstStep, KvriSize roiSize, int scaleFactor);
+KvrStatus kvriDivC_16sc_C1RSfs(const Kvr16sc* pSrc, int srcStep, Kvr16sc value, Kvr16sc* pDst, int dstStep, KvriSize roiSize, int scaleFactor);
+KvrStatus kvriDivC_16sc_C3RSfs(const Kvr16sc* pSrc, int srcStep, const Kvr16sc value[3], Kvr16sc* pDst, int dstStep, KvriSize roiSize, int scaleFactor);
+KvrStatus kvriDivC_16sc_AC4RSfs(const Kvr16sc* pSrc, int srcStep, const Kvr16sc value[3], Kvr16sc* pDst, int dstStep, KvriSize roiSize, int scaleFactor);
+KvrStatus kvriDivC_16sc_C1IRSfs(Kvr16sc value, Kvr16sc* pSrcDst, int srcDstStep, KvriSize roiSize, int scaleFactor);
+KvrStatus kvriDivC_16sc_C3IRSfs(const Kvr16sc value[3], Kvr16sc* pSrcDst, int srcDstStep, KvriSize roiSize, int scaleFactor);
+KvrStatus kvriDivC_16sc_AC4IRSfs(const Kvr16sc value[3], Kvr16sc* pSrcDst, int srcDstStep, KvriSize roiSize, int scaleFactor);
+KvrStatus kvriDivC_32sc_C1RSfs(const Kvr32sc* pSrc, int srcStep, Kvr32sc value, Kvr32sc* pDst, int dstStep, KvriSize roiSize, int scaleFactor);
+KvrStatus kvriDivC_32sc_C3RSfs(const Kvr32sc* pSrc, int srcStep, const Kvr32sc value[3], Kvr32sc* pDst, int dstStep, KvriSize roiSize, int scaleFactor);
+KvrStatus kvriDivC_32sc_AC4RSfs(const Kvr32sc* pSrc, int srcStep, const Kvr32sc value[3], Kvr32sc* pDst, int dstStep, KvriSize roiSize, int scaleFactor);
+KvrStatus kvriDivC_32sc_C1IRSfs(Kvr32sc value, Kvr32sc* pSrcDst, int srcDstStep, KvriSize roiSize, int scaleFactor);
+KvrStatus kvriDivC_32sc_C3IRSfs(const Kvr32sc value[3], Kvr32sc* pSrcDst, int srcDstStep, KvriSize roiSize, int scaleFactor);
+KvrStatus kvriDivC_32sc_AC4IRSfs(const Kvr32sc value[3], Kvr32sc* pSrcDst, int srcDstStep, KvriSize roiSize, int scaleFactor);
+KvrStatus kvriDivC_32f_C1R(const Kvr32f* pSrc, int srcStep, Kvr32f value, Kvr32f* pDst, int dstStep, KvriSize roiSize);
+KvrStatus kvriDivC_32f_C3R(const Kvr32f* pSrc, int srcStep, const Kvr32f value[3], Kvr32f* pDst, int dstStep, KvriSize roiSize);
+KvrStatus kvriDivC_32f_C4R(const Kvr32f* pSrc, int srcStep, const Kvr32f value[4], Kvr32f* pDst, int dstStep, KvriSize roiSize);
+KvrStatus kvriDivC_32f_AC4R(const Kvr32f* pSrc, int srcStep, const Kvr32f value[3], Kvr32f* pDst, int dstStep, KvriSize roiSize);
+KvrStatus kvriDivC_32f_C1IR(Kvr32f value, Kvr32f* pSrcDst, int srcDstStep, KvriSize roiSize);
+KvrStatus kvriDivC_32f_C3IR(const Kvr32f value[3], Kvr32f* pSrcDst, int srcDstStep, KvriSize roiSize);
+KvrStatus kvriDivC_32f_C4IR(const Kvr32f value[4], Kvr32f* pSrcDst, int srcDstStep, KvriSize roiSize);
+KvrStatus kvriDivC_32f_AC4IR(const Kvr32f value[3], Kvr32f* pSrcDst, int srcDstStep, KvriSize roiSize);
+KvrStatus kvriDivC_32fc_C1R(const Kvr32fc* pSrc, int srcStep, Kvr32fc value, Kvr32fc* pDst, int dstStep, KvriSize roiSize);
+KvrStatus kvriDivC_32fc_C3R(const Kvr32fc* pSrc, int srcStep, const Kvr32fc value[3], Kvr32fc* pDst, int dstStep, KvriSize roiSize);
+KvrStatus kvriDivC_32fc_AC4R(const Kvr32fc* pSrc, int srcStep, const Kvr32fc value[3], Kvr32fc* pDst, int dstStep, KvriSize roiSize);
+KvrStatus kvriDivC_32fc_C1IR(Kvr32fc value, Kvr32fc* pSrcDst, int srcDstStep, KvriSize roiSize);
+KvrStatus kvriDivC_32fc_C3IR(const Kvr32fc value[3], Kvr32fc* pSrcDst, int srcDstStep, KvriSize roiSize);
+KvrStatus kvriDivC_32fc_AC4IR(const Kvr32fc value[3], Kvr32fc* pSrcDst, int srcDstStep, KvriSize roiSize);
+
+/* Div_Round - the integer forms of Div with a rounding of the quotient, which is formed to nearest in single precision
+ * whatever the mode: 0 toward zero, 1 to nearest and ties to even, 2 to nearest and ties away from zero.
+ * Errors as for Div, then a mode other than 0, 1, 2 -213. */
+KvrStatus kvriDiv_Round_8u_C1RSfs(const Kvr8u* pSrc1, int src1Step, const Kvr8u* pSrc2, int src2Step, Kvr8u* pDst, int dstStep, KvriSize roiSize, KvrRoundMode rndMode, int scaleFactor);
+KvrStatus kvriDiv_Round_8u_C3RSfs(const Kvr8u* pSrc1, int src1Step, const Kvr8u* pSrc2, int src2Step, Kvr8u* pDst, int dstStep, KvriSize roiSize, KvrRoundMode rndMode, int scaleFactor);
+KvrStatus kvriDiv_Round_8u_C4RSfs(const Kvr8u* pSrc1, int src1Step, const Kvr8u* pSrc2, int src2Step, Kvr8u* pDst, int dstStep, KvriSize roiSize, KvrRoundMode rndMode, int scaleFactor);
+KvrStatus kvriDiv_Round_8u_AC4RSfs(const Kvr8u* pSrc1, int src1Step, const Kvr8u* pSrc2, int src2Step, Kvr8u* pDst, int dstStep, KvriSize roiSize, KvrRoundMode rndMode, int scaleFactor);
+KvrStatus kvriDiv_Round_8u_C1IRSfs(const Kvr8u* pSrc, int srcStep, Kvr8u* pSrcDst, int srcDstStep, KvriSize roiSize, KvrRoundMode rndMode, int scaleFactor);
+KvrStatus kvriDiv_Round_8u_C3IRSfs(const Kvr8u* pSrc, int srcStep, Kvr8u* pSrcDst, int srcDstStep, KvriSize roiSize, KvrRoundMode rndMode, int scaleFactor);
+KvrStatus kvriDiv_Round_8u_C4IRSfs(const Kvr8u* pSrc, int srcStep, Kvr8u* pSrcDst, int srcDstStep, KvriSize roiSize, KvrRoundMode rndMode, int scaleFactor);
+KvrStatus kvriDiv_Round_8u_AC4IRSfs(const Kvr8u* pSrc, int srcStep, Kvr8u* pSrcDst, int srcDstStep, KvriSize roiSize, KvrRoundMode rndMode, int scaleFactor);
+KvrStatus kvriDiv_Round_16u_C1RSfs(const Kvr16u* pSrc1, int src1Step, const Kvr16u* pSrc2, int src2Step, Kvr16u* pDst, int dstStep, KvriSize roiSize, KvrRoundMode rndMode, int scaleFactor);
+KvrStatus kvriDiv_Round_16u_C3RSfs(const Kvr16u* pSrc1, int src1Step, const Kvr16u* pSrc2, int src2Step, Kvr16u* pDst, int dstStep, KvriSize roiSize, KvrRoundMode rndMode, int scaleFactor);
+KvrStatus kvriDiv_Round_16u_C4RSfs(const Kvr16u* pSrc1, int src1Step, const Kvr16u* pSrc2, int src2Step, Kvr16u* pDst, int dstStep, KvriSize roiSize, KvrRoundMode rndMode, int scaleFactor);
+KvrStatus kvriDiv_Round_16u_AC4RSfs(const Kvr16u* pSrc1, int src1Step, const Kvr16u* pSrc2, int src2Step, Kvr16u* pDst, int dstStep, KvriSize roiSize, KvrRoundMode rndMode, int scaleFactor);
+KvrStatus kvriDiv_Round_16u_C1IRSfs(const Kvr16u* pSrc, int srcStep, Kvr16u* pSrcDst, int srcDstStep, KvriSize roiSize, KvrRoundMode rndMode, int scaleFactor);
+KvrStatus kvriDiv_Round_16u_C3IRSfs(const Kvr16u* pSrc, int srcStep, Kvr16u* pSrcDst, int srcDstStep, KvriSize roiSize, KvrRoundMode rndMode, int scaleFactor);
+KvrStatus kvriDiv_Round_16u_C4IRSfs(const Kvr16u* pSrc, int srcStep, Kvr16u* pSrcDst, int srcDstStep, KvriSize roiSize, KvrRoundMode rndMode, int scaleFactor);
+KvrStatus kvriDiv_Round_16u_AC4IRSfs(const Kvr16u* pSrc, int srcStep, Kvr16u* pSrcDst, int srcDstStep, KvriSize roiSize, KvrRoundMode rndMode, int scaleFactor);
+KvrStatus kvriDiv_Round_16s_C1RSfs(const Kvr16s* pSrc1, int src1Step, const Kvr16s* pSrc2, int src2Step, Kvr16s* pDst, int dstStep, KvriSize roiSize, KvrRoundMode rndMode, int scaleFactor);
+KvrStatus kvriDiv_Round_16s_C3RSfs(const Kvr16s* pSrc1, int src1Step, const Kvr16s* pSrc2, int src2Step, Kvr16s* pDst, int dstStep, KvriSize roiSize, KvrRoundMode rndMode, int scaleFactor);
+KvrStatus kvriDiv_Round_16s_C4RSfs(const Kvr16s* pSrc1, int src1Step, const Kvr16s* pSrc2, int src2Step, Kvr16s* pDst, int dstStep, KvriSize roiSize, KvrRoundMode rndMode, int scaleFactor);
+KvrStatus kvriDiv_Round_16s_AC4RSfs(const Kvr16s* pSrc1, int src1Step, const Kvr16s* pSrc2, int src2Step, Kvr16s* pDst, int dstStep, KvriSize roiSize, KvrRoundMode rndMode, int scaleFactor);
+KvrStatus kvriDiv_Round_16s_C1IRSfs(const Kvr16s* pSrc, int srcStep, Kvr16s* pSrcDst, int srcDstStep, KvriSize roiSize, KvrRoundMode rndMode, int scaleFactor);
+KvrStatus kvriDiv_Round_16s_C3IRSfs(const Kvr16s* pSrc, int srcStep, Kvr16s* pSrcDst, int srcDstStep, KvriSize roiSize, KvrRoundMode rndMode, int scaleFactor);
+KvrStatus kvriDiv_Round_16s_C4IRSfs(const Kvr16s* pSrc, int srcStep, Kvr16s* pSrcDst, int srcDstStep, KvriSize roiSize, KvrRoundMode rndMode, int scaleFactor);
+KvrStatus kvriDiv_Round_16s_AC4IRSfs(const Kvr16s* pSrc, int srcStep, Kvr16s* pSrcDst, int srcDstStep, KvriSize roiSize, KvrRoundMode rndMode, int scaleFactor);
+
+#pragma GCC visibility pop
+#ifdef __cplusplus
+}
+#endif
+
+#endif

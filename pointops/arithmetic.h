@@ -1,0 +1,191 @@
+// pointops/arithmetic.h: the bodies of the two-operand families: two images, or an image and a constant.
+//
+// A family is a struct: `checks<T>` says which steps it checks and when, and run<T>(task, scaleFactor...) chooses the
+// operation and hands it to the task, which maps it over the images. Operations take the operands in the order of the
+// arguments: op(source 1, source 2), and op(constant, source).
+#pragma once
+
+#include "core/check.h"
+#include "core/dispatch.h"
+#include "core/map.h"
+#include "datamove/fill.h"
+
+namespace kvri {
+
+enum class Checks { NoSteps, SizeThenSteps, StepsThenSize };
+
+// Of families that accept any constant.
+struct AnyValues {
+    template <class T>
+    static KvrStatus checkValues(const T*, int) { return kvrStatusOk; }
+};
+
+template <Checks order, class... Step>
+constexpr KvrStatus sizeAndSteps(KvriSize roi, Step... step) {
+    if constexpr (order == Checks::NoSteps) return hasPixels(roi);
+    else if constexpr (order == Checks::SizeThenSteps) return firstError(hasPixels(roi), positiveSteps(step...));
+    else return firstError(positiveSteps(step...), hasPixels(roi));
+}
+
+// -scaleFactor of a negative one; beyond the widest type nothing changes.
+constexpr int magnitude(int scaleFactor) { return scaleFactor < -64 ? 64 : -scaleFactor; }
+
+// Complex samples are two parts.
+template <class T>
+struct PartsOf { using Part = T; static constexpr int parts = 1; };
+template <> struct PartsOf<Kvr16sc> { using Part = Kvr16s; static constexpr int parts = 2; };
+template <> struct PartsOf<Kvr32sc> { using Part = Kvr32s; static constexpr int parts = 2; };
+template <> struct PartsOf<Kvr32fc> { using Part = Kvr32f; static constexpr int parts = 2; };
+template <class T>
+using PartOf = typename PartsOf<T>::Part;
+template <class T>
+constexpr bool kComplex = PartsOf<T>::parts == 2;
+
+// The images of a call, as bytes.
+struct Operand {
+    const void* p;
+    int step;
+};
+struct Result {
+    void* p;
+    int step;
+};
+
+// Pixels of B bytes, of which the first `Chosen` are processed; `perPixel` of them make a pixel of the ROI.
+template <int B, int Chosen, class Op>
+void mapTwo(const Op& op, Operand a, Operand b, Result d, KvriSize roi, int perPixel) {
+    const ptrdiff_t pixelBytes = ptrdiff_t(perPixel) * B;
+    eachRow(roi, [&](auto pa, auto pb, auto pd, ptrdiff_t pixels) KVRI_INLINE {
+        mapRow<B, Chosen>(op, pd, pixels * perPixel, FromImage<B>{pa}, FromImage<B>{pb});
+    }, source(a.p, a.step, pixelBytes), source(b.p, b.step, pixelBytes), destination(d.p, d.step, pixelBytes));
+}
+
+template <int B, int Chosen, class Op, class Value>
+void mapWithValue(const Op& op, const Value& value, Operand b, Result d, KvriSize roi, int perPixel) {
+    const ptrdiff_t pixelBytes = ptrdiff_t(perPixel) * B;
+    eachRow(roi, [&](auto pb, auto pd, ptrdiff_t pixels) KVRI_INLINE {
+        mapRow<B, Chosen>(op, pd, pixels * perPixel, value, FromImage<B>{pb});
+    }, source(b.p, b.step, pixelBytes), destination(d.p, d.step, pixelBytes));
+}
+
+// The same for divisions. Divisors of 0 are rare: op(a, b) need not care for them, op.careful(a, b) does where one is seen,
+// and op.zeros(a) tells where they are. Any zero among the processed channels makes the status a warning.
+template <int B, int Chosen, class Op>
+KvrStatus mapQuotients(const Op& operation, Operand a, Operand b, Result d, KvriSize roi, int perPixel) {
+    const ptrdiff_t pixelBytes = ptrdiff_t(perPixel) * B;
+    const Op op = operation;
+    Bytes<> found{};
+    eachRow(roi, [&](auto pa, auto pb, auto pd, ptrdiff_t pixels) KVRI_INLINE {
+        forEachOperand<B, Chosen, Op>(pixels * perPixel, pd, [&](auto write, auto inside, auto va, auto vb) KVRI_INLINE {
+            if (!Op::anyZero(va)) [[likely]] return write(op(va, vb));
+            found |= inside((Bytes<>)Op::zeros(va));
+            write(op.careful(va, vb));
+        }, FromImage<B>{pa}, FromImage<B>{pb});
+    }, source(a.p, a.step, pixelBytes), source(b.p, b.step, pixelBytes), destination(d.p, d.step, pixelBytes));
+    return allZero(found) ? kvrStatusOk : kvrStatusDivByZeroWarning;
+}
+
+// The destination's processed channels become 0: for scale factors that leave nothing of any result.
+template <class T, class L>
+void clear(Result d, KvriSize roi) {
+    constexpr int B = sizeof(T) * L::channels, chosen = sizeof(T) * L::colours;
+    const uint8_t zero[B] = {};
+    if constexpr (B == chosen) fill<B>(zero, d.p, d.step, roi);
+    else fillChosen<B, chosen, B>(zero, d.p, d.step, roi);
+}
+
+// What a family's operation is mapped over.
+template <class T, class L>
+struct TwoImages {
+    static constexpr bool alpha = L::channels != L::colours;
+    Operand a, b;
+    Result d;
+    KvriSize roi;
+
+    template <class Op>
+    void operator()(const Op& op) const {
+        if constexpr (alpha) mapTwo<sizeof(T) * 4, sizeof(T) * 3>(op, a, b, d, roi, 1);
+        else mapTwo<sizeof(T), sizeof(T)>(op, a, b, d, roi, L::channels);
+    }
+    template <class Op>
+    KvrStatus quotients(const Op& op) const {
+        if constexpr (alpha) return mapQuotients<sizeof(T) * 4, sizeof(T) * 3>(op, a, b, d, roi, 1);
+        else return mapQuotients<sizeof(T), sizeof(T)>(op, a, b, d, roi, L::channels);
+    }
+    void clear() const { kvri::clear<T, L>(d, roi); }
+};
+
+template <class T, class L>
+struct ImageAndValue {
+    static constexpr bool alpha = L::channels != L::colours;
+    const T* value;  // L::colours of them
+    Operand b;
+    Result d;
+    KvriSize roi;
+
+    // Values that fit into a vector a whole number of times are a pattern of samples, in which pixels do not matter.
+    template <class Op>
+    void operator()(const Op& op) const {
+        constexpr int S = sizeof(T), B = S * L::channels, lane = 16;
+        if constexpr (alpha) {
+            mapWithValue<B, S * 3>(op, FromValue<B>(value, S * 3), b, d, roi, 1);
+        } else if constexpr (L::channels == 3) {
+            mapWithValue<B, B>(op, FromValue<B>(value, B), b, d, roi, 1);
+        } else {
+            T pattern[lane / S];
+            for (int i = 0; i < lane / S; ++i) pattern[i] = value[i % L::channels];
+            mapWithValue<S, S>(op, FromValue<lane>(pattern, lane), b, d, roi, L::channels);
+        }
+    }
+    // No constant divisor is 0.
+    template <class Op>
+    KvrStatus quotients(const Op& op) const {
+        (*this)(op);
+        return kvrStatusOk;
+    }
+    void clear() const { kvri::clear<T, L>(d, roi); }
+};
+
+// Bodies. The scale factor is there for integers only.
+
+template <class Family, class T, class L, class... Scale>
+KvrStatus twoImages(const T* pSrc1, int src1Step, const T* pSrc2, int src2Step, T* pDst, int dstStep, KvriSize roi,
+                    Scale... scale) {
+    if (KvrStatus e = firstError(nonNull(pSrc1, pSrc2, pDst),
+                                 sizeAndSteps<Family::template checks<T>>(roi, src1Step, src2Step, dstStep)))
+        return e;
+    return Family::template run<T>(TwoImages<T, L>{{pSrc1, src1Step}, {pSrc2, src2Step}, {pDst, dstStep}, roi}, scale...);
+}
+
+template <class Family, class T, class L, class... Scale>
+KvrStatus twoImagesInPlace(const T* pSrc, int srcStep, T* pSrcDst, int srcDstStep, KvriSize roi, Scale... scale) {
+    if (KvrStatus e = firstError(nonNull(pSrc, pSrcDst), sizeAndSteps<Family::template checks<T>>(roi, srcStep, srcDstStep)))
+        return e;
+    return Family::template run<T>(TwoImages<T, L>{{pSrc, srcStep}, {pSrcDst, srcDstStep}, {pSrcDst, srcDstStep}, roi}, scale...);
+}
+
+template <class Family, class T, class L, class... Scale>
+KvrStatus imageAndValues(const T* pSrc, int srcStep, const T value[L::colours], T* pDst, int dstStep, KvriSize roi,
+                         Scale... scale) {
+    if (KvrStatus e = firstError(nonNull(pSrc, value, pDst), sizeAndSteps<Family::template checks<T>>(roi, srcStep, dstStep)))
+        return e;
+    if (KvrStatus e = Family::template checkValues<T>(value, L::colours)) return e;
+    return Family::template run<T>(ImageAndValue<T, L>{value, {pSrc, srcStep}, {pDst, dstStep}, roi}, scale...);
+}
+
+template <class Family, class T, class... Scale>
+KvrStatus imageAndValue(const T* pSrc, int srcStep, T value, T* pDst, int dstStep, KvriSize roi, Scale... scale) {
+    return imageAndValues<Family, T, C1>(pSrc, srcStep, &value, pDst, dstStep, roi, scale...);
+}
+
+template <class Family, class T, class L, class... Scale>
+KvrStatus valuesInPlace(const T value[L::colours], T* pSrcDst, int srcDstStep, KvriSize roi, Scale... scale) {
+    return imageAndValues<Family, T, L>(pSrcDst, srcDstStep, value, pSrcDst, srcDstStep, roi, scale...);
+}
+
+template <class Family, class T, class... Scale>
+KvrStatus valueInPlace(T value, T* pSrcDst, int srcDstStep, KvriSize roi, Scale... scale) {
+    return imageAndValues<Family, T, C1>(pSrcDst, srcDstStep, &value, pSrcDst, srcDstStep, roi, scale...);
+}
+
+}  // namespace kvri
