@@ -115,6 +115,15 @@ struct TwoImages {
     void clear() const { kvri::clear<T, L>(d, roi); }
 };
 
+// Constants as they are.
+template <class T>
+struct ValuePattern {
+    template <int B>
+    struct Of : FromValue<B> {
+        Of(const T* values, int n) : FromValue<B>(values, n * int(sizeof(T))) {}
+    };
+};
+
 template <class T, class L>
 struct ImageAndValue {
     static constexpr bool alpha = L::channels != L::colours;
@@ -123,18 +132,22 @@ struct ImageAndValue {
     Result d;
     KvriSize roi;
 
-    // Values that fit into a vector a whole number of times are a pattern of samples, in which pixels do not matter.
     template <class Op>
-    void operator()(const Op& op) const {
-        constexpr int S = sizeof(T), B = S * L::channels, lane = 16;
+    void operator()(const Op& op) const { with<ValuePattern<T>::template Of>(op, value); }
+
+    // op(what `Pattern` makes of the values, b): Pattern<B> repeats values, one per sample, in pixels of B bytes. Values that
+    // fit into a vector a whole number of times are a pattern of samples, in which pixels do not matter.
+    template <template <int> class Pattern, class Op, class Value>
+    void with(const Op& op, const Value* values) const {
+        constexpr int S = sizeof(T), B = S * L::channels, lane = std::max(16, B);
         if constexpr (alpha) {
-            mapWithValue<B, S * 3>(op, FromValue<B>(value, S * 3), b, d, roi, 1);
+            mapWithValue<B, S * 3>(op, Pattern<B>(values, 3), b, d, roi, 1);
         } else if constexpr (L::channels == 3) {
-            mapWithValue<B, B>(op, FromValue<B>(value, B), b, d, roi, 1);
+            mapWithValue<B, B>(op, Pattern<B>(values, 3), b, d, roi, 1);
         } else {
-            T pattern[lane / S];
-            for (int i = 0; i < lane / S; ++i) pattern[i] = value[i % L::channels];
-            mapWithValue<S, S>(op, FromValue<lane>(pattern, lane), b, d, roi, L::channels);
+            Value pattern[lane / S];
+            for (int i = 0; i < lane / S; ++i) pattern[i] = values[i % L::channels];
+            mapWithValue<S, S>(op, Pattern<lane>(pattern, lane / S), b, d, roi, L::channels);
         }
     }
     // No constant divisor is 0.
