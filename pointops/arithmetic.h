@@ -145,9 +145,7 @@ struct ImageAndValue {
         } else if constexpr (L::channels == 3) {
             mapWithValue<B, B>(op, Pattern<B>(values, 3), b, d, roi, 1);
         } else {
-            Value pattern[lane / S];
-            for (int i = 0; i < lane / S; ++i) pattern[i] = values[i % L::channels];
-            mapWithValue<S, S>(op, Pattern<lane>(pattern, lane / S), b, d, roi, L::channels);
+            mapWithValue<S, S>(op, Pattern<lane>(values, L::channels), b, d, roi, L::channels);
         }
     }
     // No constant divisor is 0.

@@ -80,7 +80,7 @@ struct ReciprocalLanes {
 // One member of all reciprocals.
 template <int B, class T>
 FromValue<B> memberPattern(const Reciprocal* r, int n, uint16_t Reciprocal::*member) {
-    T values[16];
+    T values[4];
     for (int i = 0; i < n; ++i) values[i] = T(std::min<int>(r[i].*member, std::numeric_limits<T>::max()));
     return FromValue<B>(values, n * int(sizeof(T)));
 }
@@ -134,7 +134,7 @@ struct ReciprocalPattern<uint8_t> {
         FromValue<B> half_, even_;
 
         static void widen(Wide* pattern, const Reciprocal* r, int n, uint16_t Reciprocal::*member) {
-            uint8_t low[16], high[16];
+            uint8_t low[4], high[4];
             for (int i = 0; i < n; ++i) {
                 low[i] = uint8_t(r[i].*member);
                 high[i] = uint8_t(r[i].*member >> 8);
