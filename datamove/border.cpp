@@ -109,17 +109,27 @@ KVRI_INLINE inline void eachOf(ptrdiff_t rows, Row row, Images... image) {
 
 // Rectangles; widths in pixels. Rows without gaps between them are one.
 
-// Copies past the caches. fenceStreams() is left to the caller: ordinary stores share the lines where rows meet, and a fence
-// in every row would wait for each.
+template <int B, int Chosen>
+KVRI_INLINE inline void copyRun(auto cuts, const uint8_t* src, uint8_t* dst, ptrdiff_t bytes) {
+    cuts.cut(bytes, [&](auto size, ptrdiff_t at, auto) KVRI_INLINE {
+        constexpr int n = size;
+        if constexpr (Chosen == B) store(dst + at, load<Bytes<n>>(src + at));
+        else storePiece<B, Chosen, n>(dst + at, loadPart<PieceVector<n>>(src + at, n));
+    });
+}
+
+// Copies past the caches, but for the row's ends, which share lines with their neighbours. A masked store there would reach
+// into the streamed lines and have them read back. fenceStreams() is left to the caller, as it waits for such lines.
 inline void streamRow(const uint8_t* src, uint8_t* dst, ptrdiff_t bytes) {
     constexpr int V = kVectorBytes;
-    const ptrdiff_t head = -reinterpret_cast<intptr_t>(dst) & (V - 1);
-    ptrdiff_t at = head;
-    for (; bytes - at >= 4 * V; at += 4 * V)
-        unroll<4>([&](auto j) KVRI_INLINE { stream(dst + at + j * V, load<Bytes<>>(src + at + j * V)); });
-    for (; bytes - at >= V; at += V) stream(dst + at, load<Bytes<>>(src + at));
-    storePart(dst, loadPart<Bytes<>>(src, head), head);
-    storePart(dst + at, loadPart<Bytes<>>(src + at, bytes - at), bytes - at);
+    const auto copyEnd = [&](ptrdiff_t at, ptrdiff_t n) {
+        withCutsFor<1>(n, [&](auto cuts) KVRI_INLINE { copyRun<1, 1>(cuts, src + at, dst + at, n); });
+    };
+    ptrdiff_t at = -reinterpret_cast<intptr_t>(dst) & 63;
+    copyEnd(0, at);
+    for (; bytes - at >= 64; at += 64)
+        unroll<64 / V>([&](auto j) KVRI_INLINE { stream(dst + at + j * V, load<Bytes<>>(src + at + j * V)); });
+    copyEnd(at, bytes - at);
 }
 
 inline void streamRectangle(Source src, Destination dst, ptrdiff_t bytes, ptrdiff_t rows) {
@@ -131,13 +141,7 @@ template <int B, int Chosen>
     ptrdiff_t bytes = width * B;
     if (src.step == bytes && dst.step == bytes) bytes *= rows, rows = 1;
     withCutsFor<B>(bytes, [&](auto cuts) KVRI_INLINE {
-        eachOf(rows, [&](auto s, auto d) KVRI_INLINE {
-            cuts.cut(bytes, [&](auto size, ptrdiff_t at, auto) KVRI_INLINE {
-                constexpr int n = size;
-                if constexpr (Chosen == B) store(d + at, load<Bytes<n>>(s + at));
-                else storePiece<B, Chosen, n>(d + at, loadPart<PieceVector<n>>(s + at, n));
-            });
-        }, src, dst);
+        eachOf(rows, [&](auto s, auto d) KVRI_INLINE { copyRun<B, Chosen>(cuts, s, d, bytes); }, src, dst);
     });
 }
 
