@@ -8,7 +8,7 @@
 #include "core/dispatch.h"
 #include "core/layout.h"
 #include "core/rows.h"
-#include "datamove/write.h"
+#include "datamove/fill.h"
 #include "kvri/datamove.h"
 
 namespace kvri {
@@ -132,17 +132,35 @@ inline void streamRow(const uint8_t* src, uint8_t* dst, ptrdiff_t bytes) {
     copyEnd(at, bytes - at);
 }
 
+// For long rows: stores that do not cross lines.
+KVRI_INLINE inline void copyAligned(const uint8_t* src, uint8_t* dst, ptrdiff_t bytes) {
+    store(dst, load<Bytes<>>(src));
+    const ptrdiff_t head = kVectorBytes - (reinterpret_cast<intptr_t>(dst) & (kVectorBytes - 1));
+    copyRun<1, 1>(Vectors<4>{}, src + head, dst + head, bytes - head);
+}
+
 inline void streamRectangle(Source src, Destination dst, ptrdiff_t bytes, ptrdiff_t rows) {
     eachOf(rows, [&](auto s, auto d) KVRI_INLINE { streamRow(s, d, bytes); }, src, dst);
 }
 
 template <int B, int Chosen>
 [[gnu::noinline]] void copyRectangle(Source src, Destination dst, ptrdiff_t width, ptrdiff_t rows) {
+    constexpr ptrdiff_t worthAligning = 8 * kVectorBytes;
     ptrdiff_t bytes = width * B;
     if (src.step == bytes && dst.step == bytes) bytes *= rows, rows = 1;
+    if (Chosen == B && bytes >= worthAligning)
+        return eachOf(rows, [=](auto s, auto d) KVRI_INLINE { copyAligned(s, d, bytes); }, src, dst);
     withCutsFor<B>(bytes, [&](auto cuts) KVRI_INLINE {
         eachOf(rows, [&](auto s, auto d) KVRI_INLINE { copyRun<B, Chosen>(cuts, s, d, bytes); }, src, dst);
     });
+}
+
+// exceeding: the call moves more than the cache holds. Some channels of a pixel cannot be streamed, short rows not well.
+template <int B, int Chosen>
+void copyRectangle(Source src, Destination dst, ptrdiff_t width, ptrdiff_t rows, bool exceeding) {
+    constexpr ptrdiff_t worthStreaming = 1024;
+    if (Chosen == B && exceeding && width * B >= worthStreaming) streamRectangle(src, dst, width * B, rows);
+    else copyRectangle<B, Chosen>(src, dst, width, rows);
 }
 
 template <int B, int Chosen>
@@ -186,9 +204,16 @@ struct ConstBorder {
         fillRectangle<B, Chosen>(pixel, dst.at<B>(-f.left, 0), f.left, rows);
         fillRectangle<B, Chosen>(pixel, dst.at<B>(f.src.width, 0), f.right(), rows);
     }
-    KVRI_INLINE void rows(const Frame& f, Destination dst) const {
-        fillRectangle<B, Chosen>(pixel, dst, f.dst.width, f.top);
-        fillRectangle<B, Chosen>(pixel, dst.at<B>(0, f.top + f.src.height), f.dst.width, f.bottom());
+    KVRI_INLINE void rows(const Frame& f, Destination dst, bool exceeding) const {
+        fillRows(dst, f.dst.width, f.top, exceeding);
+        fillRows(dst.at<B>(0, f.top + f.src.height), f.dst.width, f.bottom(), exceeding);
+    }
+
+private:
+    KVRI_INLINE void fillRows(Destination dst, int width, int rows, bool exceeding) const {
+        if constexpr (Chosen == B)
+            if (exceeding && rows > 0) return fill<B>(&pixel, dst.row, int(dst.step), {width, rows});
+        fillRectangle<B, Chosen>(pixel, dst, width, rows);
     }
 };
 
@@ -199,9 +224,9 @@ struct ReplicateBorder {
         replicateColumn<B, Chosen>(src, dst.at<B>(-f.left, 0), f.left, rows);
         replicateColumn<B, Chosen>(src.at<B>(w - 1, 0), dst.at<B>(w, 0), f.right(), rows);
     }
-    KVRI_INLINE void rows(const Frame& f, Destination dst) const {
+    KVRI_INLINE void rows(const Frame& f, Destination dst, bool exceeding) const {
         const auto repeat = [&](ptrdiff_t from, ptrdiff_t to, ptrdiff_t rows) {
-            copyRectangle<B, Chosen>({dst.at<B>(0, from).row, 0}, dst.at<B>(0, to), f.dst.width, rows);
+            copyRectangle<B, Chosen>({dst.at<B>(0, from).row, 0}, dst.at<B>(0, to), f.dst.width, rows, exceeding);
         };
         repeat(f.top, 0, f.top);
         repeat(f.top + f.src.height - 1, f.top + f.src.height, f.bottom());
@@ -230,37 +255,35 @@ struct WrapBorder {
             copyRectangle<B, B>(period.at<B>(from, 0), dst.at<B>(to, 0), n, rows);
         });
     }
-    void rows(const Frame& f, Destination dst) const {
+    void rows(const Frame& f, Destination dst, bool exceeding) const {
         repeatPeriod(f.src.height, f.top, f.bottom(), [&](ptrdiff_t from, ptrdiff_t to, ptrdiff_t n) {
-            copyRectangle<B, B>(dst.at<B>(0, f.top + from), dst.at<B>(0, f.top + to), f.dst.width, n);
+            copyRectangle<B, B>(dst.at<B>(0, f.top + from), dst.at<B>(0, f.top + to), f.dst.width, n, exceeding);
         });
     }
 };
 
 template <int B, int Chosen, class Border>
 void copyWithin(const Border& border, const Frame& f, const void* pSrc, int srcStep, void* pDst, int dstStep) {
-    constexpr ptrdiff_t worthStreaming = 1024, bandBytes = 16384;  // of a row; of rows that stay in the first cache
-    const ptrdiff_t rowBytes = ptrdiff_t(f.dst.width) * B;
-    const bool streamed = Chosen == B && rowBytes >= worthStreaming && exceedsCache(f.dst, 2 * B);
-    const ptrdiff_t band = std::max<ptrdiff_t>(1, bandBytes / rowBytes);
+    constexpr ptrdiff_t bandBytes = 16384;  // rows of these stay in the first cache until their margins are written
+    const bool exceeding = exceedsCache(f.dst, 2 * B);
+    const ptrdiff_t band = std::max<ptrdiff_t>(1, bandBytes / (ptrdiff_t(f.dst.width) * B));
     const Destination dst{static_cast<uint8_t*>(pDst), dstStep};
     Source s{static_cast<const uint8_t*>(pSrc), srcStep};
     Destination d = dst.at<B>(f.left, f.top);
     for (ptrdiff_t left = f.src.height; left > 0; left -= band, s = s.at<B>(0, band), d = d.at<B>(0, band)) {
         const ptrdiff_t rows = std::min(band, left);
-        if (streamed) streamRectangle(s, d, ptrdiff_t(f.src.width) * B, rows);
-        else copyRectangle<B, Chosen>(s, d, f.src.width, rows);
+        copyRectangle<B, Chosen>(s, d, f.src.width, rows, exceeding);
         border.sides(f, s, d, rows);
     }
-    border.rows(f, dst);
-    if (streamed) fenceStreams();
+    border.rows(f, dst, exceeding);
+    if (exceeding) fenceStreams();
 }
 
 template <int B, class Border>
 void extend(const Border& border, const Frame& f, void* pSrcDst, int step) {
     const Destination image{static_cast<uint8_t*>(pSrcDst), step};
     border.sides(f, image, image, f.src.height);
-    border.rows(f, image.at<B>(-f.left, -f.top));
+    border.rows(f, image.at<B>(-f.left, -f.top), false);
 }
 
 template <class T, class L>
