@@ -7,7 +7,6 @@
 #include "core/check.h"
 #include "core/dispatch.h"
 #include "core/layout.h"
-#include "core/rows.h"
 #include "datamove/fill.h"
 #include "kvri/datamove.h"
 
@@ -121,14 +120,14 @@ KVRI_INLINE inline void copyRun(auto cuts, const uint8_t* src, uint8_t* dst, ptr
 // Copies past the caches, but for the row's ends, which share lines with their neighbours. A masked store there would reach
 // into the streamed lines and have them read back. fenceStreams() is left to the caller, as it waits for such lines.
 inline void streamRow(const uint8_t* src, uint8_t* dst, ptrdiff_t bytes) {
-    constexpr int V = kVectorBytes;
+    constexpr int V = kVectorBytes, line = 64;
     const auto copyEnd = [&](ptrdiff_t at, ptrdiff_t n) {
         withCutsFor<1>(n, [&](auto cuts) KVRI_INLINE { copyRun<1, 1>(cuts, src + at, dst + at, n); });
     };
-    ptrdiff_t at = -reinterpret_cast<intptr_t>(dst) & 63;
+    ptrdiff_t at = -reinterpret_cast<intptr_t>(dst) & (line - 1);
     copyEnd(0, at);
-    for (; bytes - at >= 64; at += 64)
-        unroll<64 / V>([&](auto j) KVRI_INLINE { stream(dst + at + j * V, load<Bytes<>>(src + at + j * V)); });
+    for (; bytes - at >= line; at += line)
+        unroll<line / V>([&](auto j) KVRI_INLINE { stream(dst + at + j * V, load<Bytes<>>(src + at + j * V)); });
     copyEnd(at, bytes - at);
 }
 
@@ -292,7 +291,8 @@ KvrStatus copyConstBorder(const T* pSrc, int srcStep, KvriSize srcRoi, T* pDst, 
     const Frame frame{srcRoi, dstRoi, top, left};
     if (KvrStatus e = firstError(nonNull(pSrc, pDst, value), positiveSteps(srcStep, dstStep), frame.check())) return e;
     constexpr int B = sizeof(T) * L::channels, chosen = sizeof(T) * L::colours;
-    copyWithin<B, chosen>(ConstBorder<B, chosen>{loadPart<Bytes<16>>(reinterpret_cast<const uint8_t*>(value), chosen)}, frame, pSrc, srcStep, pDst, dstStep);
+    const auto pixel = loadPart<Bytes<16>>(reinterpret_cast<const uint8_t*>(value), chosen);
+    copyWithin<B, chosen>(ConstBorder<B, chosen>{pixel}, frame, pSrc, srcStep, pDst, dstStep);
     return kvrStatusOk;
 }
 

@@ -121,6 +121,26 @@ TEST(Border, MarginsWiderThanTheSource) {
         }
 }
 
+// The source fills a page that cannot be written.
+TEST(Border, InPlaceWritesTheMarginOnly) {
+    const int page = int(sysconf(_SC_PAGESIZE));
+    GuardedPages pages(size_t(3 * page));
+    uint8_t* src = pages.begin() + page;
+    Random(1).fill(src, size_t(page));
+    for (const Case& c : kBorders) {
+        const int B = c.pixelBytes(), width = page / B;
+        if (!c.inPlace || page % B != 0) continue;
+        ASSERT_EQ(mprotect(src, size_t(page), PROT_READ), 0);
+        const Call call{src, 3 * page, {width, 1}, nullptr, 0, {width + 12, 1}, 0, 5, nullptr};
+        EXPECT_EQ(c.function(call, 1), kvrStatusOk) << c.name;
+        const uint8_t *left = c.kind == Kind::Wrap ? src + page - B : src, *right = c.kind == Kind::Wrap ? src : src + page - B;
+        const size_t colours = size_t(c.sampleBytes * c.colours);
+        EXPECT_EQ(0, std::memcmp(src - B, left, colours)) << c.name;
+        EXPECT_EQ(0, std::memcmp(src + page, right, colours)) << c.name;
+    }
+    ASSERT_EQ(mprotect(src, size_t(page), PROT_READ | PROT_WRITE), 0);
+}
+
 // Rows enough that they are worked on in parts, and images that exceed the cache of the stand-in.
 TEST(Border, LargeImages) {
     for (const Case& c : kBorders)
