@@ -89,7 +89,7 @@ bool sharesImages(const Case& c, Random& random) { return c.kind == Kind::Wrap &
 
 TEST(Border, MatchesTheContract) {
     for (const Case& c : kBorders)
-        for (unsigned seed = 0; seed < 300; ++seed) {
+        for (unsigned seed = 0; seed < 150; ++seed) {
             Random random(seed);
             const KvriSize size = random.size();
             expectBorder(c, size, randomMargins(random), random, sharesImages(c, random));
