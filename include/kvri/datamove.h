@@ -294,6 +294,91 @@ KvrStatus kvriSwapChannels_32f_AC4R(const Kvr32f* pSrc, int srcStep, Kvr32f* pDs
 KvrStatus kvriSwapChannels_8u_C3IR(Kvr8u* pSrcDst, int srcDstStep, KvriSize roiSize, const int order[3]);
 KvrStatus kvriSwapChannels_8u_C4IR(Kvr8u* pSrcDst, int srcDstStep, KvriSize roiSize, const int order[4]);
 
+/* CopyConstBorder, CopyReplicateBorder, CopyWrapBorder - the source inside a larger destination, with a margin around it.
+ * Source pixel (0, 0) becomes destination pixel (leftBorderWidth, topBorderHeight); margins on the right and below take what
+ * remains of dstRoiSize, which may be nothing. All lengths in pixels. AC4 leaves the destination's fourth channel as it is,
+ * in the margin and in the middle.
+ * Errors, in this order: null pointer -8 (value counts where it is one), step below 1 -14, -6: a width or height below 1, a
+ * negative border, leftBorderWidth + source width above the destination's width, and the same for heights. */
+
+/* CopyConstBorder - every margin pixel is value: a sample, or 3 (C3, AC4) or 4 (C4) of them.
+ * Source and destination may not overlap. */
+KvrStatus kvriCopyConstBorder_8u_C1R(const Kvr8u* pSrc, int srcStep, KvriSize srcRoiSize, Kvr8u* pDst, int dstStep, KvriSize dstRoiSize, int topBorderHeight, int leftBorderWidth, Kvr8u value);
+KvrStatus kvriCopyConstBorder_8u_C3R(const Kvr8u* pSrc, int srcStep, KvriSize srcRoiSize, Kvr8u* pDst, int dstStep, KvriSize dstRoiSize, int topBorderHeight, int leftBorderWidth, const Kvr8u value[3]);
+KvrStatus kvriCopyConstBorder_8u_C4R(const Kvr8u* pSrc, int srcStep, KvriSize srcRoiSize, Kvr8u* pDst, int dstStep, KvriSize dstRoiSize, int topBorderHeight, int leftBorderWidth, const Kvr8u value[4]);
+KvrStatus kvriCopyConstBorder_8u_AC4R(const Kvr8u* pSrc, int srcStep, KvriSize srcRoiSize, Kvr8u* pDst, int dstStep, KvriSize dstRoiSize, int topBorderHeight, int leftBorderWidth, const Kvr8u value[3]);
+KvrStatus kvriCopyConstBorder_16u_C1R(const Kvr16u* pSrc, int srcStep, KvriSize srcRoiSize, Kvr16u* pDst, int dstStep, KvriSize dstRoiSize, int topBorderHeight, int leftBorderWidth, Kvr16u value);
+KvrStatus kvriCopyConstBorder_16u_C3R(const Kvr16u* pSrc, int srcStep, KvriSize srcRoiSize, Kvr16u* pDst, int dstStep, KvriSize dstRoiSize, int topBorderHeight, int leftBorderWidth, const Kvr16u value[3]);
+KvrStatus kvriCopyConstBorder_16u_C4R(const Kvr16u* pSrc, int srcStep, KvriSize srcRoiSize, Kvr16u* pDst, int dstStep, KvriSize dstRoiSize, int topBorderHeight, int leftBorderWidth, const Kvr16u value[4]);
+KvrStatus kvriCopyConstBorder_16u_AC4R(const Kvr16u* pSrc, int srcStep, KvriSize srcRoiSize, Kvr16u* pDst, int dstStep, KvriSize dstRoiSize, int topBorderHeight, int leftBorderWidth, const Kvr16u value[3]);
+KvrStatus kvriCopyConstBorder_16s_C1R(const Kvr16s* pSrc, int srcStep, KvriSize srcRoiSize, Kvr16s* pDst, int dstStep, KvriSize dstRoiSize, int topBorderHeight, int leftBorderWidth, Kvr16s value);
+KvrStatus kvriCopyConstBorder_16s_C3R(const Kvr16s* pSrc, int srcStep, KvriSize srcRoiSize, Kvr16s* pDst, int dstStep, KvriSize dstRoiSize, int topBorderHeight, int leftBorderWidth, const Kvr16s value[3]);
+KvrStatus kvriCopyConstBorder_16s_C4R(const Kvr16s* pSrc, int srcStep, KvriSize srcRoiSize, Kvr16s* pDst, int dstStep, KvriSize dstRoiSize, int topBorderHeight, int leftBorderWidth, const Kvr16s value[4]);
+KvrStatus kvriCopyConstBorder_16s_AC4R(const Kvr16s* pSrc, int srcStep, KvriSize srcRoiSize, Kvr16s* pDst, int dstStep, KvriSize dstRoiSize, int topBorderHeight, int leftBorderWidth, const Kvr16s value[3]);
+KvrStatus kvriCopyConstBorder_32s_C1R(const Kvr32s* pSrc, int srcStep, KvriSize srcRoiSize, Kvr32s* pDst, int dstStep, KvriSize dstRoiSize, int topBorderHeight, int leftBorderWidth, Kvr32s value);
+KvrStatus kvriCopyConstBorder_32s_C3R(const Kvr32s* pSrc, int srcStep, KvriSize srcRoiSize, Kvr32s* pDst, int dstStep, KvriSize dstRoiSize, int topBorderHeight, int leftBorderWidth, const Kvr32s value[3]);
+KvrStatus kvriCopyConstBorder_32s_C4R(const Kvr32s* pSrc, int srcStep, KvriSize srcRoiSize, Kvr32s* pDst, int dstStep, KvriSize dstRoiSize, int topBorderHeight, int leftBorderWidth, const Kvr32s value[4]);
+KvrStatus kvriCopyConstBorder_32s_AC4R(const Kvr32s* pSrc, int srcStep, KvriSize srcRoiSize, Kvr32s* pDst, int dstStep, KvriSize dstRoiSize, int topBorderHeight, int leftBorderWidth, const Kvr32s value[3]);
+KvrStatus kvriCopyConstBorder_32f_C1R(const Kvr32f* pSrc, int srcStep, KvriSize srcRoiSize, Kvr32f* pDst, int dstStep, KvriSize dstRoiSize, int topBorderHeight, int leftBorderWidth, Kvr32f value);
+KvrStatus kvriCopyConstBorder_32f_C3R(const Kvr32f* pSrc, int srcStep, KvriSize srcRoiSize, Kvr32f* pDst, int dstStep, KvriSize dstRoiSize, int topBorderHeight, int leftBorderWidth, const Kvr32f value[3]);
+KvrStatus kvriCopyConstBorder_32f_C4R(const Kvr32f* pSrc, int srcStep, KvriSize srcRoiSize, Kvr32f* pDst, int dstStep, KvriSize dstRoiSize, int topBorderHeight, int leftBorderWidth, const Kvr32f value[4]);
+KvrStatus kvriCopyConstBorder_32f_AC4R(const Kvr32f* pSrc, int srcStep, KvriSize srcRoiSize, Kvr32f* pDst, int dstStep, KvriSize dstRoiSize, int topBorderHeight, int leftBorderWidth, const Kvr32f value[3]);
+
+/* CopyReplicateBorder - a margin pixel is the source pixel nearest to it.
+ * Source and destination may not overlap. */
+KvrStatus kvriCopyReplicateBorder_8u_C1R(const Kvr8u* pSrc, int srcStep, KvriSize srcRoiSize, Kvr8u* pDst, int dstStep, KvriSize dstRoiSize, int topBorderHeight, int leftBorderWidth);
+KvrStatus kvriCopyReplicateBorder_8u_C3R(const Kvr8u* pSrc, int srcStep, KvriSize srcRoiSize, Kvr8u* pDst, int dstStep, KvriSize dstRoiSize, int topBorderHeight, int leftBorderWidth);
+KvrStatus kvriCopyReplicateBorder_8u_C4R(const Kvr8u* pSrc, int srcStep, KvriSize srcRoiSize, Kvr8u* pDst, int dstStep, KvriSize dstRoiSize, int topBorderHeight, int leftBorderWidth);
+KvrStatus kvriCopyReplicateBorder_8u_AC4R(const Kvr8u* pSrc, int srcStep, KvriSize srcRoiSize, Kvr8u* pDst, int dstStep, KvriSize dstRoiSize, int topBorderHeight, int leftBorderWidth);
+KvrStatus kvriCopyReplicateBorder_16u_C1R(const Kvr16u* pSrc, int srcStep, KvriSize srcRoiSize, Kvr16u* pDst, int dstStep, KvriSize dstRoiSize, int topBorderHeight, int leftBorderWidth);
+KvrStatus kvriCopyReplicateBorder_16u_C3R(const Kvr16u* pSrc, int srcStep, KvriSize srcRoiSize, Kvr16u* pDst, int dstStep, KvriSize dstRoiSize, int topBorderHeight, int leftBorderWidth);
+KvrStatus kvriCopyReplicateBorder_16u_C4R(const Kvr16u* pSrc, int srcStep, KvriSize srcRoiSize, Kvr16u* pDst, int dstStep, KvriSize dstRoiSize, int topBorderHeight, int leftBorderWidth);
+KvrStatus kvriCopyReplicateBorder_16u_AC4R(const Kvr16u* pSrc, int srcStep, KvriSize srcRoiSize, Kvr16u* pDst, int dstStep, KvriSize dstRoiSize, int topBorderHeight, int leftBorderWidth);
+KvrStatus kvriCopyReplicateBorder_16s_C1R(const Kvr16s* pSrc, int srcStep, KvriSize srcRoiSize, Kvr16s* pDst, int dstStep, KvriSize dstRoiSize, int topBorderHeight, int leftBorderWidth);
+KvrStatus kvriCopyReplicateBorder_16s_C3R(const Kvr16s* pSrc, int srcStep, KvriSize srcRoiSize, Kvr16s* pDst, int dstStep, KvriSize dstRoiSize, int topBorderHeight, int leftBorderWidth);
+KvrStatus kvriCopyReplicateBorder_16s_C4R(const Kvr16s* pSrc, int srcStep, KvriSize srcRoiSize, Kvr16s* pDst, int dstStep, KvriSize dstRoiSize, int topBorderHeight, int leftBorderWidth);
+KvrStatus kvriCopyReplicateBorder_16s_AC4R(const Kvr16s* pSrc, int srcStep, KvriSize srcRoiSize, Kvr16s* pDst, int dstStep, KvriSize dstRoiSize, int topBorderHeight, int leftBorderWidth);
+KvrStatus kvriCopyReplicateBorder_32s_C1R(const Kvr32s* pSrc, int srcStep, KvriSize srcRoiSize, Kvr32s* pDst, int dstStep, KvriSize dstRoiSize, int topBorderHeight, int leftBorderWidth);
+KvrStatus kvriCopyReplicateBorder_32s_C3R(const Kvr32s* pSrc, int srcStep, KvriSize srcRoiSize, Kvr32s* pDst, int dstStep, KvriSize dstRoiSize, int topBorderHeight, int leftBorderWidth);
+KvrStatus kvriCopyReplicateBorder_32s_C4R(const Kvr32s* pSrc, int srcStep, KvriSize srcRoiSize, Kvr32s* pDst, int dstStep, KvriSize dstRoiSize, int topBorderHeight, int leftBorderWidth);
+KvrStatus kvriCopyReplicateBorder_32s_AC4R(const Kvr32s* pSrc, int srcStep, KvriSize srcRoiSize, Kvr32s* pDst, int dstStep, KvriSize dstRoiSize, int topBorderHeight, int leftBorderWidth);
+KvrStatus kvriCopyReplicateBorder_32f_C1R(const Kvr32f* pSrc, int srcStep, KvriSize srcRoiSize, Kvr32f* pDst, int dstStep, KvriSize dstRoiSize, int topBorderHeight, int leftBorderWidth);
+KvrStatus kvriCopyReplicateBorder_32f_C3R(const Kvr32f* pSrc, int srcStep, KvriSize srcRoiSize, Kvr32f* pDst, int dstStep, KvriSize dstRoiSize, int topBorderHeight, int leftBorderWidth);
+KvrStatus kvriCopyReplicateBorder_32f_C4R(const Kvr32f* pSrc, int srcStep, KvriSize srcRoiSize, Kvr32f* pDst, int dstStep, KvriSize dstRoiSize, int topBorderHeight, int leftBorderWidth);
+KvrStatus kvriCopyReplicateBorder_32f_AC4R(const Kvr32f* pSrc, int srcStep, KvriSize srcRoiSize, Kvr32f* pDst, int dstStep, KvriSize dstRoiSize, int topBorderHeight, int leftBorderWidth);
+
+/* CopyReplicateBorder in place - pSrcDst is the source's first pixel inside a larger image: the margins are written into the
+ * memory around it, which begins topBorderHeight rows above and leftBorderWidth pixels to the left. The source pixels are
+ * not written. */
+KvrStatus kvriCopyReplicateBorder_8u_C1IR(Kvr8u* pSrcDst, int srcDstStep, KvriSize srcRoiSize, KvriSize dstRoiSize, int topBorderHeight, int leftBorderWidth);
+KvrStatus kvriCopyReplicateBorder_8u_C3IR(Kvr8u* pSrcDst, int srcDstStep, KvriSize srcRoiSize, KvriSize dstRoiSize, int topBorderHeight, int leftBorderWidth);
+KvrStatus kvriCopyReplicateBorder_8u_C4IR(Kvr8u* pSrcDst, int srcDstStep, KvriSize srcRoiSize, KvriSize dstRoiSize, int topBorderHeight, int leftBorderWidth);
+KvrStatus kvriCopyReplicateBorder_8u_AC4IR(Kvr8u* pSrcDst, int srcDstStep, KvriSize srcRoiSize, KvriSize dstRoiSize, int topBorderHeight, int leftBorderWidth);
+KvrStatus kvriCopyReplicateBorder_16u_C1IR(Kvr16u* pSrcDst, int srcDstStep, KvriSize srcRoiSize, KvriSize dstRoiSize, int topBorderHeight, int leftBorderWidth);
+KvrStatus kvriCopyReplicateBorder_16u_C3IR(Kvr16u* pSrcDst, int srcDstStep, KvriSize srcRoiSize, KvriSize dstRoiSize, int topBorderHeight, int leftBorderWidth);
+KvrStatus kvriCopyReplicateBorder_16u_C4IR(Kvr16u* pSrcDst, int srcDstStep, KvriSize srcRoiSize, KvriSize dstRoiSize, int topBorderHeight, int leftBorderWidth);
+KvrStatus kvriCopyReplicateBorder_16u_AC4IR(Kvr16u* pSrcDst, int srcDstStep, KvriSize srcRoiSize, KvriSize dstRoiSize, int topBorderHeight, int leftBorderWidth);
+KvrStatus kvriCopyReplicateBorder_16s_C1IR(Kvr16s* pSrcDst, int srcDstStep, KvriSize srcRoiSize, KvriSize dstRoiSize, int topBorderHeight, int leftBorderWidth);
+KvrStatus kvriCopyReplicateBorder_16s_C3IR(Kvr16s* pSrcDst, int srcDstStep, KvriSize srcRoiSize, KvriSize dstRoiSize, int topBorderHeight, int leftBorderWidth);
+KvrStatus kvriCopyReplicateBorder_16s_C4IR(Kvr16s* pSrcDst, int srcDstStep, KvriSize srcRoiSize, KvriSize dstRoiSize, int topBorderHeight, int leftBorderWidth);
+KvrStatus kvriCopyReplicateBorder_16s_AC4IR(Kvr16s* pSrcDst, int srcDstStep, KvriSize srcRoiSize, KvriSize dstRoiSize, int topBorderHeight, int leftBorderWidth);
+KvrStatus kvriCopyReplicateBorder_32s_C1IR(Kvr32s* pSrcDst, int srcDstStep, KvriSize srcRoiSize, KvriSize dstRoiSize, int topBorderHeight, int leftBorderWidth);
+KvrStatus kvriCopyReplicateBorder_32s_C3IR(Kvr32s* pSrcDst, int srcDstStep, KvriSize srcRoiSize, KvriSize dstRoiSize, int topBorderHeight, int leftBorderWidth);
+KvrStatus kvriCopyReplicateBorder_32s_C4IR(Kvr32s* pSrcDst, int srcDstStep, KvriSize srcRoiSize, KvriSize dstRoiSize, int topBorderHeight, int leftBorderWidth);
+KvrStatus kvriCopyReplicateBorder_32s_AC4IR(Kvr32s* pSrcDst, int srcDstStep, KvriSize srcRoiSize, KvriSize dstRoiSize, int topBorderHeight, int leftBorderWidth);
+KvrStatus kvriCopyReplicateBorder_32f_C1IR(Kvr32f* pSrcDst, int srcDstStep, KvriSize srcRoiSize, KvriSize dstRoiSize, int topBorderHeight, int leftBorderWidth);
+KvrStatus kvriCopyReplicateBorder_32f_C3IR(Kvr32f* pSrcDst, int srcDstStep, KvriSize srcRoiSize, KvriSize dstRoiSize, int topBorderHeight, int leftBorderWidth);
+KvrStatus kvriCopyReplicateBorder_32f_C4IR(Kvr32f* pSrcDst, int srcDstStep, KvriSize srcRoiSize, KvriSize dstRoiSize, int topBorderHeight, int leftBorderWidth);
+KvrStatus kvriCopyReplicateBorder_32f_AC4IR(Kvr32f* pSrcDst, int srcDstStep, KvriSize srcRoiSize, KvriSize dstRoiSize, int topBorderHeight, int leftBorderWidth);
+
+/* CopyWrapBorder - the source is one period of a periodic image: the margin on one side shows the opposite side, and
+ * starts over where it is wider than the source.
+ * C1IR works in place, as above; so does C1R where pSrc = pDst, with srcStep as the step. Other overlaps are not allowed. */
+KvrStatus kvriCopyWrapBorder_32s_C1R(const Kvr32s* pSrc, int srcStep, KvriSize srcRoiSize, Kvr32s* pDst, int dstStep, KvriSize dstRoiSize, int topBorderHeight, int leftBorderWidth);
+KvrStatus kvriCopyWrapBorder_32s_C1IR(Kvr32s* pSrcDst, int srcDstStep, KvriSize srcRoiSize, KvriSize dstRoiSize, int topBorderHeight, int leftBorderWidth);
+KvrStatus kvriCopyWrapBorder_32f_C1R(const Kvr32f* pSrc, int srcStep, KvriSize srcRoiSize, Kvr32f* pDst, int dstStep, KvriSize dstRoiSize, int topBorderHeight, int leftBorderWidth);
+KvrStatus kvriCopyWrapBorder_32f_C1IR(Kvr32f* pSrcDst, int srcDstStep, KvriSize srcRoiSize, KvriSize dstRoiSize, int topBorderHeight, int leftBorderWidth);
+
 #pragma GCC visibility pop
 #ifdef __cplusplus
 }
