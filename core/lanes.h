@@ -78,10 +78,11 @@ inline Vec<int64_t, sizeof(V)> multiplyEven(V a, V b) {
 #endif
 }
 
-// min(a, b) of 8u, 16u, 32u, 32s, 32f, 64f; b where a or b is NaN.
+// min(a, b) of 8u, 16u, 16s, 32u, 32s, 32f, 64f; b where a or b is NaN.
 template <class V>
 inline V smaller(V a, V b) {
     if constexpr (kHolds<V, uint8_t>) { KVRI_BY_WIDTH(V, min_epu8, raw(a), raw(b)); }
+    else if constexpr (kHolds<V, int16_t>) { KVRI_BY_WIDTH(V, min_epi16, raw(a), raw(b)); }
     else if constexpr (kHolds<V, float>) { KVRI_BY_WIDTH(V, min_ps, raw(a), raw(b)); }
     else if constexpr (kHolds<V, double>) { KVRI_BY_WIDTH(V, min_pd, raw(a), raw(b)); }
 #if defined(__SSE4_1__)
@@ -183,7 +184,24 @@ inline Wider<V> widenHigh(V v) {
     else return (Wider<V>)zipHigh<size>(v, V{});
 }
 
-// The reverse, with saturation: low halves of the lanes from a, high halves from b. The elements are taken as signed.
+#if defined(__SSE4_1__)
+// The first elements of v, across lanes, as many as a vector R of wider ones holds.
+template <class R, class V>
+inline R extended(V v) {
+    constexpr int from = sizeof(ElementOf<V>), to = sizeof(ElementOf<R>);
+    if constexpr (std::is_signed_v<ElementOf<V>>) {
+        if constexpr (from == 2) { KVRI_BY_WIDTH(R, cvtepi16_epi32, raw(v)); }
+        else if constexpr (to == 2) { KVRI_BY_WIDTH(R, cvtepi8_epi16, raw(v)); }
+        else { KVRI_BY_WIDTH(R, cvtepi8_epi32, raw(v)); }
+    } else {
+        if constexpr (from == 2) { KVRI_BY_WIDTH(R, cvtepu16_epi32, raw(v)); }
+        else if constexpr (to == 2) { KVRI_BY_WIDTH(R, cvtepu8_epi16, raw(v)); }
+        else { KVRI_BY_WIDTH(R, cvtepu8_epi32, raw(v)); }
+    }
+}
+#endif
+
+// The reverse of widenLow and widenHigh, with saturation: low halves of the lanes from a, high halves from b. The elements are taken as signed.
 template <class T, class V>
 inline Vec<T, sizeof(V)> narrow(V a, V b) {
     using R = Vec<T, sizeof(V)>;
@@ -290,18 +308,23 @@ inline V clamp(V v, V low, V high) {
     return larger(smaller(v, high), low);
 }
 
-// Whether any element is 0.
+// Whether any element of a is equal to that of b.
+template <class V>
+inline bool anyEqual(V a, V b) {
+#if defined(__AVX512BW__)
+    if constexpr (kHolds<V, float>) return _mm512_cmp_ps_mask((__m512)a, (__m512)b, _CMP_EQ_OQ) != 0;
+    else if constexpr (sizeof(ElementOf<V>) == 1) return _mm512_cmpeq_epi8_mask((__m512i)a, (__m512i)b) != 0;
+    else if constexpr (sizeof(ElementOf<V>) == 2) return _mm512_cmpeq_epi16_mask((__m512i)a, (__m512i)b) != 0;
+    else if constexpr (sizeof(ElementOf<V>) == 4) return _mm512_cmpeq_epi32_mask((__m512i)a, (__m512i)b) != 0;
+    else return _mm512_cmpeq_epi64_mask((__m512i)a, (__m512i)b) != 0;
+#else
+    return !allZero((Bytes<>)(a == b));
+#endif
+}
+
 template <class V>
 inline bool anyZero(V v) {
-#if defined(__AVX512BW__)
-    if constexpr (kHolds<V, float>) return _mm512_cmp_ps_mask((__m512)v, _mm512_setzero_ps(), _CMP_EQ_OQ) != 0;
-    else if constexpr (sizeof(ElementOf<V>) == 1) return _mm512_testn_epi8_mask((__m512i)v, (__m512i)v) != 0;
-    else if constexpr (sizeof(ElementOf<V>) == 2) return _mm512_testn_epi16_mask((__m512i)v, (__m512i)v) != 0;
-    else if constexpr (sizeof(ElementOf<V>) == 4) return _mm512_testn_epi32_mask((__m512i)v, (__m512i)v) != 0;
-    else return _mm512_testn_epi64_mask((__m512i)v, (__m512i)v) != 0;
-#else
-    return !allZero((Bytes<>)(v == 0));
-#endif
+    return anyEqual(v, V{});
 }
 
 }  // namespace kvri

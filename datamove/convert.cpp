@@ -54,18 +54,14 @@ KvrStatus withoutNegatives(const S* pSrc, int srcStep, T* pDst, int dstStep, Kvr
 
 // 32f to integers
 
-template <class T, class Round>
-struct Rounded {
-    using Source = Kvr32f;
-    using Target = T;
-    using Work = Kvr32f;
-    Vec<int32_t> operator()(Vec<Work> v) const { return toIntegers<T>(v, Round{}); }
+struct Unchanged {
+    Vec<float> operator()(Vec<float> v) const { return v; }
 };
 
 template <class T, class L>
 void roundImage(const Kvr32f* pSrc, int srcStep, T* pDst, int dstStep, KvriSize roi, KvrRoundMode mode) {
     const DefaultFloatControl control;
-    withRounding(mode, [&](auto round) { convertImage<L>(Rounded<T, decltype(round)>{}, pSrc, srcStep, pDst, dstStep, roi); });
+    withRounding(mode, [&](auto round) { convertImage<L>(Rounded<T, decltype(round), Unchanged>{}, pSrc, srcStep, pDst, dstStep, roi); });
 }
 
 template <class T, class L>
@@ -76,22 +72,17 @@ KvrStatus round(const Kvr32f* pSrc, int srcStep, T* pDst, int dstStep, KvriSize 
 }
 
 // Scaled. 2^-scaleFactor itself may be beyond the range of 32f while its product with a number is not: it comes as two factors.
-template <class T, class Round>
-class RoundedProduct {
+class Product {
     static constexpr int limit = 200;
-    Vec<float> half_, rest_;
+    Vec<float> first_, second_;
 
 public:
-    using Source = Kvr32f;
-    using Target = T;
-    using Work = Kvr32f;
-
-    explicit RoundedProduct(int scaleFactor) {
+    explicit Product(int scaleFactor) {
         const int n = std::clamp(scaleFactor, -limit, limit);
-        half_ = splat<Vec<float>>(scaleOf<float>(n / 2, limit));
-        rest_ = splat<Vec<float>>(scaleOf<float>(n - n / 2, limit));
+        first_ = splat<Vec<float>>(scaleOf<float>(n / 2, limit));
+        second_ = splat<Vec<float>>(scaleOf<float>(n - n / 2, limit));
     }
-    Vec<int32_t> operator()(Vec<float> v) const { return toIntegers<T>(v * half_ * rest_, Round{}); }
+    Vec<float> operator()(Vec<float> v) const { return v * first_ * second_; }
 };
 
 // 8u is computed as 16u.
@@ -121,7 +112,7 @@ void scaleImage(const Kvr32f* pSrc, int srcStep, T* pDst, int dstStep, KvriSize 
     if (scaleFactor == 0) return roundImage<T, C1>(pSrc, srcStep, pDst, dstStep, roi, mode);
     const DefaultFloatControl control;
     withRounding(mode, [&](auto round) {
-        convertImage<C1>(RoundedProduct<T, decltype(round)>(scaleFactor), pSrc, srcStep, pDst, dstStep, roi);
+        convertImage<C1>(Rounded<T, decltype(round), Product>{Product(scaleFactor)}, pSrc, srcStep, pDst, dstStep, roi);
     });
 }
 

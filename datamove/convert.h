@@ -2,7 +2,8 @@
 //
 // A conversion is an object with the types Source, Work and Target: samples are widened from Source to Work, the object turns a
 // vector of Work into one of the result, whose elements are of the same size, and these are narrowed to Target: taken as signed,
-// and saturated.
+// and saturated. Where a result is the least number of its type or, if there are 16-bit numbers on the way, may be less than
+// theirs, and the conversion has a function careful(), this one's results are taken instead.
 #pragma once
 
 #include "core/check.h"
@@ -22,18 +23,21 @@ template <class T, int bytes>
     requires(sizeof(T) >= bytes)
 struct Widened<T, bytes> { using type = T; };
 
-// Samples of some or all of a vector become as many as fit into `count` vectors of Work, in order.
+// The samples of a vector, or of a part of one, as `count` vectors of Work, in order.
 template <class Work, class V>
 KVRI_INLINE inline void widen(V v, Vec<Work>* out) {
     constexpr int count = sizeof(V) / sizeof(ElementOf<V>) * sizeof(Work) / kVectorBytes;
-    if constexpr (kHolds<V, Work>) out[0] = v;
-    else if constexpr (count == 1) out[0] = __builtin_convertvector(v, Vec<Work>);
-    else if constexpr (kVectorBytes == 16) {
+    if constexpr (kHolds<V, Work>) {
+        out[0] = v;
+    } else {
+#if defined(__SSE4_1__)
+        static_assert(count <= 2);
+        out[0] = extended<Vec<Work>>(v);
+        if constexpr (count == 2) out[1] = extended<Vec<Work>>(zipHigh<8>(v, v));
+#else
         widen<Work>(widenLow(v), out);
         widen<Work>(widenHigh(v), out + count / 2);
-    } else {
-        widen<Work>(lowerHalf(v), out);
-        widen<Work>(upperHalf(v), out + count / 2);
+#endif
     }
 }
 
@@ -49,13 +53,30 @@ inline V unpackedOrder(V v) {
     });
 }
 
-// K vectors as one of T, in order.
-template <class T, int K, class V>
-KVRI_INLINE inline Vec<T> joined(const V* v) {
-    if constexpr (K == 1) return (Vec<T>)v[0];
-    else if constexpr (K == 2) return unpackedOrder<K>(narrow<T>(v[0], v[1]));
-    else return unpackedOrder<K>(narrow<T>(narrow<int16_t>(v[0], v[1]), narrow<int16_t>(v[2], v[3])));
+// K vectors become two, of 16-bit elements where there were four.
+template <int K, class V>
+KVRI_INLINE inline auto halvesOf(const V* v) {
+    if constexpr (K == 2) return std::array{v[0], v[1]};
+    else return std::array{narrow<int16_t>(v[0], v[1]), narrow<int16_t>(v[2], v[3])};
 }
+
+// A row's last block, some of whose vectors may be whole, or not the row's at all.
+struct LastBlock {
+    template <class V>
+    static V load(const uint8_t* p, ptrdiff_t bytes) {
+        if (bytes >= ptrdiff_t(sizeof(V))) return kvri::load<V>(p);
+        return bytes > 0 ? loadPart<V>(p, bytes) : V{};
+    }
+    template <class V>
+    static void store(uint8_t* p, V v, ptrdiff_t bytes) {
+        if (bytes >= ptrdiff_t(sizeof(V))) kvri::store(p, v);
+        else if (bytes > 0) storePart(p, v, bytes);
+    }
+    template <class V>
+    static void storeChosen(uint8_t* p, V v, Choice<V> choice, ptrdiff_t bytes) {
+        if (bytes > 0) storeChosenPart(p, v, choice, bytes);
+    }
+};
 
 // One block: as many samples as fill a vector of the narrower type.
 template <class Op, bool Alpha>
@@ -64,44 +85,62 @@ class ConversionStep {
     using T = typename Op::Target;
     using Work = typename Op::Work;
     using V = Vec<Work>;
-    static constexpr int sourceVectorBytes = std::max<int>(16, kVectorBytes * sizeof(S) / sizeof(Work));
+    static constexpr int loadedBytes = std::max<int>(16, kVectorBytes * sizeof(S) / sizeof(Work));
     static constexpr int perTarget = sizeof(Work) / sizeof(T);
 
 public:
     static constexpr int samples = kVectorBytes / std::min(sizeof(S), sizeof(T));
 
 private:
-    static constexpr int works = samples * sizeof(Work) / kVectorBytes, sources = samples * sizeof(S) / sourceVectorBytes;
+    static constexpr int works = samples * sizeof(Work) / kVectorBytes, loads = samples * sizeof(S) / loadedBytes;
     const Op op_;  // bytes that are stored might alias the constants of another's operation, but no copy's
     const uint8_t* src_;
     uint8_t* dst_;
 
-    // Row bytes that are left behind vectors.
-    KVRI_INLINE static void store(auto block, uint8_t* dst, Bytes<> v, ptrdiff_t bytes, auto vector) {
-        constexpr int j = vector, pixel = 4 * sizeof(T), colours = 3 * sizeof(T);
-        if constexpr (Alpha) block.storeChosen(dst, v, choose<Bytes<>>(IsChosen<pixel, colours, j>{}), bytes);
-        else block.store(dst, v, bytes);
+    template <class F>
+    KVRI_INLINE static auto mapped(const V* work, F f) {
+        std::array<decltype(f(work[0])), works> result;
+        unroll<works>([&](auto i) KVRI_INLINE { result[i] = f(work[i]); });
+        return result;
+    }
+
+    // Vector i of the target.
+    template <class R, size_t n>
+    KVRI_INLINE Vec<T> target(const std::array<R, n>& result, const V* work, int i) const {
+        if constexpr (perTarget == 1) {
+            return (Vec<T>)result[i];
+        } else {
+            auto halves = halvesOf<perTarget>(result.data() + i * perTarget);
+            if constexpr (requires { op_.careful(work[0]); }) {
+                using Half = typename decltype(halves)::value_type;
+                if (anyEqual(smaller(halves[0], halves[1]), splat<Half>(std::numeric_limits<ElementOf<Half>>::min()))) [[unlikely]]
+                    halves = halvesOf<perTarget>(mapped(work, [&](V v) KVRI_INLINE { return op_.careful(v); }).data());
+            }
+            return unpackedOrder<perTarget>(narrow<T>(halves[0], halves[1]));
+        }
     }
 
 public:
     ConversionStep(const Op& op, const uint8_t* src, uint8_t* dst) : op_(op), src_(src), dst_(dst) {}
 
     KVRI_INLINE void operator()(auto block, ptrdiff_t first, ptrdiff_t n) const {
+        const uint8_t* src = src_ + first * ptrdiff_t(sizeof(S));
+        uint8_t* dst = dst_ + first * ptrdiff_t(sizeof(T));
         V work[works];
-        unroll<sources>([&](auto i) KVRI_INLINE {
-            const ptrdiff_t at = i * sourceVectorBytes;
-            using Part = Vec<S, sourceVectorBytes>;
-            widen<Work>(block.template load<Part>(src_ + first * ptrdiff_t(sizeof(S)) + at, n * ptrdiff_t(sizeof(S)) - at),
-                        work + i * works / sources);
+        unroll<loads>([&](auto i) KVRI_INLINE {
+            const ptrdiff_t at = i * loadedBytes;
+            widen<Work>(block.template load<Vec<S, loadedBytes>>(src + at, n * ptrdiff_t(sizeof(S)) - at), work + i * works / loads);
         });
-        decltype(op_(work[0])) result[works];
-        unroll<works>([&](auto i) KVRI_INLINE { result[i] = op_(work[i]); });
+        const auto result = mapped(work, op_);
         unroll<works / perTarget>([&](auto i) KVRI_INLINE {
-            const ptrdiff_t at = i * kVectorBytes;
-            store(block, dst_ + first * ptrdiff_t(sizeof(T)) + at, (Bytes<>)joined<T, perTarget>(result + i * perTarget),
-                  n * ptrdiff_t(sizeof(T)) - at, i);
+            constexpr int at = i * kVectorBytes, pixel = 4 * sizeof(T), colours = 3 * sizeof(T);
+            const Bytes<> v = (Bytes<>)target(result, work, i);
+            const ptrdiff_t bytes = n * ptrdiff_t(sizeof(T)) - at;
+            if constexpr (Alpha) block.storeChosen(dst + at, v, choose<Bytes<>>(IsChosen<pixel, colours, i>{}), bytes);
+            else block.store(dst + at, v, bytes);
         });
     }
+    KVRI_INLINE void operator()(PartBlock, ptrdiff_t first, ptrdiff_t n) const { (*this)(LastBlock{}, first, n); }
 };
 
 template <bool Alpha, class Op>
@@ -133,19 +172,31 @@ KvrStatus checkImages(const S* pSrc, int srcStep, const T* pDst, int dstStep, Kv
     return firstError(nonNull(pSrc, pDst), hasPixels(roi), badStep);
 }
 
-// 32f numbers to integers for Target; NaN becomes 0.
-template <class T, class Round>
-Vec<int32_t> toIntegers(Vec<float> v, Round round) {
+// 32f numbers value(v) to integers for T.
+template <class T, class Round, class Value>
+struct Rounded {
+    using Source = Kvr32f;
+    using Target = T;
+    using Work = Kvr32f;
     using F = Vec<float>;
-    if constexpr (std::is_same_v<T, uint32_t>) {
-        return (Vec<int32_t>)round.toUnsigned(larger(v, F{}));
-    } else if constexpr (std::is_same_v<T, int32_t>) {
-        const Vec<int32_t> above = v >= splat<F>(0x1p31f);
-        return (round(v) ^ above) & (v == v);
-    } else {  // what lies below, and NaN, become the least number of all
-        const Vec<int32_t> r = round(smaller(splat<F>(std::numeric_limits<T>::max()), v));
-        return std::is_unsigned_v<T> ? r : r & (v == v);
+    using I = Vec<int32_t>;
+    Value value;
+
+    // Of narrow T, numbers beyond the range of 32s, and NaN, become its minimum.
+    I operator()(F v) const {
+        if constexpr (std::is_same_v<T, uint32_t>) return (I)Round{}.toUnsigned(larger(value(v), F{}));
+        else if constexpr (std::is_same_v<T, int32_t>) return saturated(value(v));
+        else return Round{}(value(v));
     }
-}
+
+    // Where the minimum has been seen.
+    I careful(F v) const requires(sizeof(T) < 4) { return saturated(value(v)); }
+
+private:
+    static I saturated(F v) {
+        const I above = v >= splat<F>(0x1p31f);
+        return (Round{}(v) ^ above) & (v == v);
+    }
+};
 
 }  // namespace kvri

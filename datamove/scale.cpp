@@ -76,12 +76,9 @@ struct ToInterval {
 };
 
 struct FromInterval {
-    using Source = Kvr32f;
-    using Target = Kvr8u;
-    using Work = Kvr32f;
     using F = Vec<float>;
     F factor, offset;
-    Vec<int32_t> operator()(F v) const { return toIntegers<Kvr8u>(v * factor - offset, ToNearest{}); }
+    F operator()(F v) const { return v * factor - offset; }
 };
 
 template <class L>
@@ -98,7 +95,7 @@ KvrStatus fromInterval(const Kvr32f* pSrc, int srcStep, Kvr8u* pDst, int dstStep
     const DefaultFloatControl control;
     if (KvrStatus e = firstError(notEmpty(vMin, vMax), checkImages<Steps::Positive>(pSrc, srcStep, pDst, dstStep, roi))) return e;
     const Kvr32f factor = 255 / (vMax - vMin);
-    convertImage<L>(FromInterval{splat<F>(factor), splat<F>(vMin * factor)}, pSrc, srcStep, pDst, dstStep, roi);
+    convertImage<L>(Rounded<Kvr8u, ToNearest, FromInterval>{{splat<F>(factor), splat<F>(vMin * factor)}}, pSrc, srcStep, pDst, dstStep, roi);
     return kvrStatusOk;
 }
 
