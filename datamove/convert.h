@@ -78,8 +78,8 @@ struct LastBlock {
     }
 };
 
-// One block: as many samples as fill a vector of the narrower type.
-template <class Op, bool Alpha>
+// One block of `units`: a unit is the samples of one loaded vector or of one target vector, whichever are more.
+template <class Op, bool Alpha, int units>
 class ConversionStep {
     using S = typename Op::Source;
     using T = typename Op::Target;
@@ -89,10 +89,11 @@ class ConversionStep {
     static constexpr int perTarget = sizeof(Work) / sizeof(T);
 
 public:
-    static constexpr int samples = kVectorBytes / std::min(sizeof(S), sizeof(T));
+    static constexpr int samples = units * std::max(loadedBytes / sizeof(S), kVectorBytes / sizeof(T));
+    static constexpr int works = samples * sizeof(Work) / kVectorBytes;
 
 private:
-    static constexpr int works = samples * sizeof(Work) / kVectorBytes, loads = samples * sizeof(S) / loadedBytes;
+    static constexpr int loads = samples * sizeof(S) / loadedBytes;
     const Op op_;  // bytes that are stored might alias the constants of another's operation, but no copy's
     const uint8_t* src_;
     uint8_t* dst_;
@@ -140,14 +141,26 @@ public:
             else block.store(dst + at, v, bytes);
         });
     }
-    KVRI_INLINE void operator()(PartBlock, ptrdiff_t first, ptrdiff_t n) const { (*this)(LastBlock{}, first, n); }
 };
+
+// Vectors of Work that are loaded before any is stored.
+template <class Op>
+constexpr int kGrouped = 4;
+template <class Op>
+    requires requires { Op::grouped; }
+constexpr int kGrouped<Op> = Op::grouped;
 
 template <bool Alpha, class Op>
 KVRI_INLINE inline void convertRow(const Op& op, const uint8_t* src, uint8_t* dst, ptrdiff_t samples) {
-    using Step = ConversionStep<Op, Alpha>;
-    constexpr bool equal = sizeof(typename Op::Source) == sizeof(typename Op::Target);
-    forEachBlock<Step::samples, 0, equal ? 4 : 1>(samples, Step(op, src, dst));
+    using Unit = ConversionStep<Op, Alpha, 1>;
+    constexpr int units = std::max(1, kGrouped<Op> / Unit::works);
+    const ConversionStep<Op, Alpha, units> group(op, src, dst);
+    ptrdiff_t first = 0;
+    for (; samples - first >= group.samples; first += group.samples) group(WholeBlock{}, first, group.samples);
+    const Unit unit(op, src, dst);
+    if constexpr (units > 1)
+        for (; samples - first >= unit.samples; first += unit.samples) unit(WholeBlock{}, first, unit.samples);
+    if (first < samples) unit(LastBlock{}, first, samples - first);
 }
 
 template <bool Alpha, class Op>

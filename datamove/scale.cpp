@@ -71,6 +71,7 @@ struct ToInterval {
     using Target = Kvr32f;
     using Work = Kvr32u;
     using F = Vec<float>;
+    static constexpr int grouped = 16;
     F least, step;
     F operator()(Vec<Work> v) const { return least + toFloats((Vec<int32_t>)v) * step; }
 };
