@@ -94,7 +94,7 @@ public:
 
 private:
     static constexpr int loads = samples * sizeof(S) / loadedBytes;
-    const Op op_;  // bytes that are stored might alias the constants of another's operation, but no copy's
+    const Op op_;
     const uint8_t* src_;
     uint8_t* dst_;
 
@@ -150,24 +150,44 @@ template <class Op>
     requires requires { Op::grouped; }
 constexpr int kGrouped<Op> = Op::grouped;
 
-template <bool Alpha, class Op>
-KVRI_INLINE inline void convertRow(const Op& op, const uint8_t* src, uint8_t* dst, ptrdiff_t samples) {
+// Samples until p is aligned for streaming; -1 where that never happens.
+template <class T>
+ptrdiff_t samplesToAlignment(const uint8_t* p) {
+    const ptrdiff_t bytes = -reinterpret_cast<intptr_t>(p) & (kVectorBytes - 1);
+    return bytes % sizeof(T) == 0 ? bytes / ptrdiff_t(sizeof(T)) : -1;
+}
+
+template <bool Alpha, class Block, class Op>
+KVRI_INLINE inline void convertRow(const Op& op, const uint8_t* src, uint8_t* dst, ptrdiff_t first, ptrdiff_t samples) {
     using Unit = ConversionStep<Op, Alpha, 1>;
     constexpr int units = std::max(1, kGrouped<Op> / Unit::works);
     const ConversionStep<Op, Alpha, units> group(op, src, dst);
-    ptrdiff_t first = 0;
-    for (; samples - first >= group.samples; first += group.samples) group(WholeBlock{}, first, group.samples);
     const Unit unit(op, src, dst);
+    if (first > 0) unit(LastBlock{}, 0, first);
+    for (; samples - first >= group.samples; first += group.samples) group(Block{}, first, group.samples);
     if constexpr (units > 1)
-        for (; samples - first >= unit.samples; first += unit.samples) unit(WholeBlock{}, first, unit.samples);
+        for (; samples - first >= unit.samples; first += unit.samples) unit(Block{}, first, unit.samples);
     if (first < samples) unit(LastBlock{}, first, samples - first);
 }
 
 template <bool Alpha, class Op>
-void convertRows(const Op& op, const void* pSrc, int srcStep, void* pDst, int dstStep, KvriSize roi, int channels) {
-    eachRow(roi, [&](auto s, auto d, ptrdiff_t pixels) KVRI_INLINE { convertRow<Alpha>(op, s, d, pixels * channels); },
-            source(pSrc, srcStep, ptrdiff_t(sizeof(typename Op::Source)) * channels),
-            destination(pDst, dstStep, ptrdiff_t(sizeof(typename Op::Target)) * channels));
+void convertRows(const Op& conversion, const void* pSrc, int srcStep, void* pDst, int dstStep, KvriSize roi, int channels) {
+    const Op op = conversion;  // bytes that are stored might alias its constants, but no local copy's
+    using T = typename Op::Target;
+    constexpr int srcBytes = sizeof(typename Op::Source), dstBytes = sizeof(T);
+    const auto src = source(pSrc, srcStep, srcBytes * channels);
+    const auto dst = destination(pDst, dstStep, dstBytes * channels);
+    if constexpr (!Alpha)
+        if (exceedsCache(roi, (srcBytes + dstBytes) * channels) && pSrc != pDst) {
+            eachRow(roi, [&](auto s, auto d, ptrdiff_t pixels) KVRI_INLINE {
+                const ptrdiff_t samples = pixels * channels, head = samplesToAlignment<T>(d);
+                if (head < 0) convertRow<Alpha, WholeBlock>(op, s, d, 0, samples);
+                else convertRow<Alpha, StreamedBlock>(op, s, d, std::min(head, samples), samples);
+            }, src, dst);
+            return fenceStreams();
+        }
+    eachRow(roi, [&](auto s, auto d, ptrdiff_t pixels) KVRI_INLINE { convertRow<Alpha, WholeBlock>(op, s, d, 0, pixels * channels); },
+            src, dst);
 }
 
 // Every sample of an image, or the colours of every pixel.
