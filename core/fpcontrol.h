@@ -5,7 +5,7 @@
 
 namespace kvri {
 
-// Rounding to nearest, no exceptions, denormal numbers as they are - and then again what the caller had.
+// Rounding to nearest, no exceptions, denormal numbers as they are - and then again what the caller had, flags included.
 class DefaultFloatControl {
     static constexpr unsigned control = 0xFFC0, defaults = 0x1F80;  // the sticky flags below stay
     unsigned before_ = _mm_getcsr();
@@ -21,7 +21,7 @@ public:
     }
     DefaultFloatControl(const DefaultFloatControl&) = delete;
     ~DefaultFloatControl() {
-        if (!isDefault(before_)) _mm_setcsr(before_);
+        if (_mm_getcsr() != before_) _mm_setcsr(before_);  // costs more than looking
     }
 };
 

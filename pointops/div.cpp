@@ -1,35 +1,11 @@
 // pointops/div.cpp: Div, DivC and Div_Round.
 #include "core/fpcontrol.h"
+#include "core/roundmode.h"
 #include "kvri/pointops.h"
 #include "pointops/reciprocal.h"
 
 namespace kvri {
 namespace {
-
-// 2^-scaleFactor. Beyond the limits no quotient but 0 changes any more: it has saturated, or rounds to 0.
-template <class F>
-F scaleOf(int scaleFactor, int limit) {
-    const int n = std::clamp(scaleFactor, -limit, limit);
-    F scale = 1;
-    for (int i = 0; i < n; ++i) scale /= 2;
-    for (int i = 0; i > n; --i) scale *= 2;
-    return scale;
-}
-
-// How a quotient becomes an integer.
-struct ToNearest {
-    template <class V>
-    auto operator()(V q) const { return toNearest(q); }
-};
-struct TowardZero {
-    template <class V>
-    auto operator()(V q) const { return towardZero(q); }
-};
-// No quotient of 16-bit numbers lies so close below a tie that adding a half would round it up to the next integer.
-struct HalfAway {
-    template <class V>
-    auto operator()(V q) const { return towardZero(q + (V)((Bytes<>)splat<V>(0.5f) | ((Bytes<>)q & (Bytes<>)splat<V>(-0.0f)))); }
-};
 
 // Divisions of integers: quotients(a, b) of 32s, for any b and any a but 0, and the rest follows.
 template <class T, class Quotients>

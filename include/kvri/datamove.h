@@ -378,6 +378,170 @@ KvrStatus kvriCopyWrapBorder_32s_C1R(const Kvr32s* pSrc, int srcStep, KvriSize s
 KvrStatus kvriCopyWrapBorder_32s_C1IR(Kvr32s* pSrcDst, int srcDstStep, KvriSize srcRoiSize, KvriSize dstRoiSize, int topBorderHeight, int leftBorderWidth);
 KvrStatus kvriCopyWrapBorder_32f_C1R(const Kvr32f* pSrc, int srcStep, KvriSize srcRoiSize, Kvr32f* pDst, int dstStep, KvriSize dstRoiSize, int topBorderHeight, int leftBorderWidth);
 KvrStatus kvriCopyWrapBorder_32f_C1IR(Kvr32f* pSrcDst, int srcDstStep, KvriSize srcRoiSize, KvriSize dstRoiSize, int topBorderHeight, int leftBorderWidth);
+/* Convert - every sample as the nearest value of another type: exactly where the type is wider, else saturated (-5 is 0 and
+ * 300 is 255 as 8u). AC4 leaves the destination's fourth channel as it is. Pixel by pixel; the images may not overlap.
+ * Errors, in this order: null pointer -8, width or height below 1 -6, step below 1 -14. */
+KvrStatus kvriConvert_8u16u_C1R(const Kvr8u* pSrc, int srcStep, Kvr16u* pDst, int dstStep, KvriSize roiSize);
+KvrStatus kvriConvert_8u16u_C3R(const Kvr8u* pSrc, int srcStep, Kvr16u* pDst, int dstStep, KvriSize roiSize);
+KvrStatus kvriConvert_8u16u_C4R(const Kvr8u* pSrc, int srcStep, Kvr16u* pDst, int dstStep, KvriSize roiSize);
+KvrStatus kvriConvert_8u16u_AC4R(const Kvr8u* pSrc, int srcStep, Kvr16u* pDst, int dstStep, KvriSize roiSize);
+KvrStatus kvriConvert_8u16s_C1R(const Kvr8u* pSrc, int srcStep, Kvr16s* pDst, int dstStep, KvriSize roiSize);
+KvrStatus kvriConvert_8u16s_C3R(const Kvr8u* pSrc, int srcStep, Kvr16s* pDst, int dstStep, KvriSize roiSize);
+KvrStatus kvriConvert_8u16s_C4R(const Kvr8u* pSrc, int srcStep, Kvr16s* pDst, int dstStep, KvriSize roiSize);
+KvrStatus kvriConvert_8u16s_AC4R(const Kvr8u* pSrc, int srcStep, Kvr16s* pDst, int dstStep, KvriSize roiSize);
+KvrStatus kvriConvert_8u32s_C1R(const Kvr8u* pSrc, int srcStep, Kvr32s* pDst, int dstStep, KvriSize roiSize);
+KvrStatus kvriConvert_8u32s_C3R(const Kvr8u* pSrc, int srcStep, Kvr32s* pDst, int dstStep, KvriSize roiSize);
+KvrStatus kvriConvert_8u32s_C4R(const Kvr8u* pSrc, int srcStep, Kvr32s* pDst, int dstStep, KvriSize roiSize);
+KvrStatus kvriConvert_8u32s_AC4R(const Kvr8u* pSrc, int srcStep, Kvr32s* pDst, int dstStep, KvriSize roiSize);
+KvrStatus kvriConvert_8u32f_C1R(const Kvr8u* pSrc, int srcStep, Kvr32f* pDst, int dstStep, KvriSize roiSize);
+KvrStatus kvriConvert_8u32f_C3R(const Kvr8u* pSrc, int srcStep, Kvr32f* pDst, int dstStep, KvriSize roiSize);
+KvrStatus kvriConvert_8u32f_C4R(const Kvr8u* pSrc, int srcStep, Kvr32f* pDst, int dstStep, KvriSize roiSize);
+KvrStatus kvriConvert_8u32f_AC4R(const Kvr8u* pSrc, int srcStep, Kvr32f* pDst, int dstStep, KvriSize roiSize);
+KvrStatus kvriConvert_8s32s_C1R(const Kvr8s* pSrc, int srcStep, Kvr32s* pDst, int dstStep, KvriSize roiSize);
+KvrStatus kvriConvert_8s32s_C3R(const Kvr8s* pSrc, int srcStep, Kvr32s* pDst, int dstStep, KvriSize roiSize);
+KvrStatus kvriConvert_8s32s_C4R(const Kvr8s* pSrc, int srcStep, Kvr32s* pDst, int dstStep, KvriSize roiSize);
+KvrStatus kvriConvert_8s32s_AC4R(const Kvr8s* pSrc, int srcStep, Kvr32s* pDst, int dstStep, KvriSize roiSize);
+KvrStatus kvriConvert_8s32f_C1R(const Kvr8s* pSrc, int srcStep, Kvr32f* pDst, int dstStep, KvriSize roiSize);
+KvrStatus kvriConvert_8s32f_C3R(const Kvr8s* pSrc, int srcStep, Kvr32f* pDst, int dstStep, KvriSize roiSize);
+KvrStatus kvriConvert_8s32f_C4R(const Kvr8s* pSrc, int srcStep, Kvr32f* pDst, int dstStep, KvriSize roiSize);
+KvrStatus kvriConvert_8s32f_AC4R(const Kvr8s* pSrc, int srcStep, Kvr32f* pDst, int dstStep, KvriSize roiSize);
+KvrStatus kvriConvert_16u8u_C1R(const Kvr16u* pSrc, int srcStep, Kvr8u* pDst, int dstStep, KvriSize roiSize);
+KvrStatus kvriConvert_16u8u_C3R(const Kvr16u* pSrc, int srcStep, Kvr8u* pDst, int dstStep, KvriSize roiSize);
+KvrStatus kvriConvert_16u8u_C4R(const Kvr16u* pSrc, int srcStep, Kvr8u* pDst, int dstStep, KvriSize roiSize);
+KvrStatus kvriConvert_16u8u_AC4R(const Kvr16u* pSrc, int srcStep, Kvr8u* pDst, int dstStep, KvriSize roiSize);
+KvrStatus kvriConvert_16s8u_C1R(const Kvr16s* pSrc, int srcStep, Kvr8u* pDst, int dstStep, KvriSize roiSize);
+KvrStatus kvriConvert_16s8u_C3R(const Kvr16s* pSrc, int srcStep, Kvr8u* pDst, int dstStep, KvriSize roiSize);
+KvrStatus kvriConvert_16s8u_C4R(const Kvr16s* pSrc, int srcStep, Kvr8u* pDst, int dstStep, KvriSize roiSize);
+KvrStatus kvriConvert_16s8u_AC4R(const Kvr16s* pSrc, int srcStep, Kvr8u* pDst, int dstStep, KvriSize roiSize);
+KvrStatus kvriConvert_16u32f_C1R(const Kvr16u* pSrc, int srcStep, Kvr32f* pDst, int dstStep, KvriSize roiSize);
+KvrStatus kvriConvert_16u32f_C3R(const Kvr16u* pSrc, int srcStep, Kvr32f* pDst, int dstStep, KvriSize roiSize);
+KvrStatus kvriConvert_16u32f_C4R(const Kvr16u* pSrc, int srcStep, Kvr32f* pDst, int dstStep, KvriSize roiSize);
+KvrStatus kvriConvert_16u32f_AC4R(const Kvr16u* pSrc, int srcStep, Kvr32f* pDst, int dstStep, KvriSize roiSize);
+KvrStatus kvriConvert_16s32f_C1R(const Kvr16s* pSrc, int srcStep, Kvr32f* pDst, int dstStep, KvriSize roiSize);
+KvrStatus kvriConvert_16s32f_C3R(const Kvr16s* pSrc, int srcStep, Kvr32f* pDst, int dstStep, KvriSize roiSize);
+KvrStatus kvriConvert_16s32f_C4R(const Kvr16s* pSrc, int srcStep, Kvr32f* pDst, int dstStep, KvriSize roiSize);
+KvrStatus kvriConvert_16s32f_AC4R(const Kvr16s* pSrc, int srcStep, Kvr32f* pDst, int dstStep, KvriSize roiSize);
+KvrStatus kvriConvert_32s8u_C1R(const Kvr32s* pSrc, int srcStep, Kvr8u* pDst, int dstStep, KvriSize roiSize);
+KvrStatus kvriConvert_32s8u_C3R(const Kvr32s* pSrc, int srcStep, Kvr8u* pDst, int dstStep, KvriSize roiSize);
+KvrStatus kvriConvert_32s8u_C4R(const Kvr32s* pSrc, int srcStep, Kvr8u* pDst, int dstStep, KvriSize roiSize);
+KvrStatus kvriConvert_32s8u_AC4R(const Kvr32s* pSrc, int srcStep, Kvr8u* pDst, int dstStep, KvriSize roiSize);
+KvrStatus kvriConvert_32s8s_C1R(const Kvr32s* pSrc, int srcStep, Kvr8s* pDst, int dstStep, KvriSize roiSize);
+KvrStatus kvriConvert_32s8s_C3R(const Kvr32s* pSrc, int srcStep, Kvr8s* pDst, int dstStep, KvriSize roiSize);
+KvrStatus kvriConvert_32s8s_C4R(const Kvr32s* pSrc, int srcStep, Kvr8s* pDst, int dstStep, KvriSize roiSize);
+KvrStatus kvriConvert_32s8s_AC4R(const Kvr32s* pSrc, int srcStep, Kvr8s* pDst, int dstStep, KvriSize roiSize);
+
+/* Convert, any step - errors, in this order: null pointer -8, width or height below 1 -6. Integers that 32f cannot represent
+ * are rounded by the processor's rounding mode as the caller has set it. */
+KvrStatus kvriConvert_16u32s_C1R(const Kvr16u* pSrc, int srcStep, Kvr32s* pDst, int dstStep, KvriSize roiSize);
+KvrStatus kvriConvert_16u32s_C3R(const Kvr16u* pSrc, int srcStep, Kvr32s* pDst, int dstStep, KvriSize roiSize);
+KvrStatus kvriConvert_16u32s_C4R(const Kvr16u* pSrc, int srcStep, Kvr32s* pDst, int dstStep, KvriSize roiSize);
+KvrStatus kvriConvert_16u32s_AC4R(const Kvr16u* pSrc, int srcStep, Kvr32s* pDst, int dstStep, KvriSize roiSize);
+KvrStatus kvriConvert_16s32s_C1R(const Kvr16s* pSrc, int srcStep, Kvr32s* pDst, int dstStep, KvriSize roiSize);
+KvrStatus kvriConvert_16s32s_C3R(const Kvr16s* pSrc, int srcStep, Kvr32s* pDst, int dstStep, KvriSize roiSize);
+KvrStatus kvriConvert_16s32s_C4R(const Kvr16s* pSrc, int srcStep, Kvr32s* pDst, int dstStep, KvriSize roiSize);
+KvrStatus kvriConvert_16s32s_AC4R(const Kvr16s* pSrc, int srcStep, Kvr32s* pDst, int dstStep, KvriSize roiSize);
+KvrStatus kvriConvert_8s16s_C1R(const Kvr8s* pSrc, int srcStep, Kvr16s* pDst, int dstStep, KvriSize roiSize);
+KvrStatus kvriConvert_16u32u_C1R(const Kvr16u* pSrc, int srcStep, Kvr32u* pDst, int dstStep, KvriSize roiSize);
+KvrStatus kvriConvert_32s32f_C1R(const Kvr32s* pSrc, int srcStep, Kvr32f* pDst, int dstStep, KvriSize roiSize);
+KvrStatus kvriConvert_32u32f_C1R(const Kvr32u* pSrc, int srcStep, Kvr32f* pDst, int dstStep, KvriSize roiSize);
+
+/* Convert, signed to unsigned - negative samples become 0, others stay what they are. Errors and steps as above. */
+KvrStatus kvriConvert_8s8u_C1Rs(const Kvr8s* pSrc, int srcStep, Kvr8u* pDst, int dstStep, KvriSize roiSize);
+KvrStatus kvriConvert_8s16u_C1Rs(const Kvr8s* pSrc, int srcStep, Kvr16u* pDst, int dstStep, KvriSize roiSize);
+KvrStatus kvriConvert_8s32u_C1Rs(const Kvr8s* pSrc, int srcStep, Kvr32u* pDst, int dstStep, KvriSize roiSize);
+KvrStatus kvriConvert_16s16u_C1Rs(const Kvr16s* pSrc, int srcStep, Kvr16u* pDst, int dstStep, KvriSize roiSize);
+KvrStatus kvriConvert_16s32u_C1Rs(const Kvr16s* pSrc, int srcStep, Kvr32u* pDst, int dstStep, KvriSize roiSize);
+KvrStatus kvriConvert_32s32u_C1Rs(const Kvr32s* pSrc, int srcStep, Kvr32u* pDst, int dstStep, KvriSize roiSize);
+
+/* Convert, 32f to integers - rounded by roundMode, of which every value but 0 and 1 means 2, and saturated; infinities become
+ * the type's limits, NaN 0. The processor's floating-point state has no influence and stays what it is.
+ * Errors, in this order: null pointer -8, width or height below 1 -6, step below 1 -14. */
+KvrStatus kvriConvert_32f8u_C1R(const Kvr32f* pSrc, int srcStep, Kvr8u* pDst, int dstStep, KvriSize roiSize, KvrRoundMode roundMode);
+KvrStatus kvriConvert_32f8u_C3R(const Kvr32f* pSrc, int srcStep, Kvr8u* pDst, int dstStep, KvriSize roiSize, KvrRoundMode roundMode);
+KvrStatus kvriConvert_32f8u_C4R(const Kvr32f* pSrc, int srcStep, Kvr8u* pDst, int dstStep, KvriSize roiSize, KvrRoundMode roundMode);
+KvrStatus kvriConvert_32f8u_AC4R(const Kvr32f* pSrc, int srcStep, Kvr8u* pDst, int dstStep, KvriSize roiSize, KvrRoundMode roundMode);
+KvrStatus kvriConvert_32f8s_C1R(const Kvr32f* pSrc, int srcStep, Kvr8s* pDst, int dstStep, KvriSize roiSize, KvrRoundMode roundMode);
+KvrStatus kvriConvert_32f8s_C3R(const Kvr32f* pSrc, int srcStep, Kvr8s* pDst, int dstStep, KvriSize roiSize, KvrRoundMode roundMode);
+KvrStatus kvriConvert_32f8s_C4R(const Kvr32f* pSrc, int srcStep, Kvr8s* pDst, int dstStep, KvriSize roiSize, KvrRoundMode roundMode);
+KvrStatus kvriConvert_32f8s_AC4R(const Kvr32f* pSrc, int srcStep, Kvr8s* pDst, int dstStep, KvriSize roiSize, KvrRoundMode roundMode);
+KvrStatus kvriConvert_32f16u_C1R(const Kvr32f* pSrc, int srcStep, Kvr16u* pDst, int dstStep, KvriSize roiSize, KvrRoundMode roundMode);
+KvrStatus kvriConvert_32f16u_C3R(const Kvr32f* pSrc, int srcStep, Kvr16u* pDst, int dstStep, KvriSize roiSize, KvrRoundMode roundMode);
+KvrStatus kvriConvert_32f16u_C4R(const Kvr32f* pSrc, int srcStep, Kvr16u* pDst, int dstStep, KvriSize roiSize, KvrRoundMode roundMode);
+KvrStatus kvriConvert_32f16u_AC4R(const Kvr32f* pSrc, int srcStep, Kvr16u* pDst, int dstStep, KvriSize roiSize, KvrRoundMode roundMode);
+KvrStatus kvriConvert_32f16s_C1R(const Kvr32f* pSrc, int srcStep, Kvr16s* pDst, int dstStep, KvriSize roiSize, KvrRoundMode roundMode);
+KvrStatus kvriConvert_32f16s_C3R(const Kvr32f* pSrc, int srcStep, Kvr16s* pDst, int dstStep, KvriSize roiSize, KvrRoundMode roundMode);
+KvrStatus kvriConvert_32f16s_C4R(const Kvr32f* pSrc, int srcStep, Kvr16s* pDst, int dstStep, KvriSize roiSize, KvrRoundMode roundMode);
+KvrStatus kvriConvert_32f16s_AC4R(const Kvr32f* pSrc, int srcStep, Kvr16s* pDst, int dstStep, KvriSize roiSize, KvrRoundMode roundMode);
+
+/* Convert, scaled - samples times 2^-scaleFactor, for any scale factor, exactly; then rounded and saturated like 32f above.
+ * The in-place form has its 32f samples in the image whose 32u results replace them.
+ * Errors, in this order: null pointer -8, width or height below 1 -6. Any step is accepted. */
+KvrStatus kvriConvert_16s8s_C1RSfs(const Kvr16s* pSrc, int srcStep, Kvr8s* pDst, int dstStep, KvriSize roiSize, KvrRoundMode roundMode, int scaleFactor);
+KvrStatus kvriConvert_16u16s_C1RSfs(const Kvr16u* pSrc, int srcStep, Kvr16s* pDst, int dstStep, KvriSize roiSize, KvrRoundMode roundMode, int scaleFactor);
+KvrStatus kvriConvert_16u8s_C1RSfs(const Kvr16u* pSrc, int srcStep, Kvr8s* pDst, int dstStep, KvriSize roiSize, KvrRoundMode roundMode, int scaleFactor);
+KvrStatus kvriConvert_32s16s_C1RSfs(const Kvr32s* pSrc, int srcStep, Kvr16s* pDst, int dstStep, KvriSize roiSize, KvrRoundMode roundMode, int scaleFactor);
+KvrStatus kvriConvert_32s16u_C1RSfs(const Kvr32s* pSrc, int srcStep, Kvr16u* pDst, int dstStep, KvriSize roiSize, KvrRoundMode roundMode, int scaleFactor);
+KvrStatus kvriConvert_32u16s_C1RSfs(const Kvr32u* pSrc, int srcStep, Kvr16s* pDst, int dstStep, KvriSize roiSize, KvrRoundMode roundMode, int scaleFactor);
+KvrStatus kvriConvert_32u16u_C1RSfs(const Kvr32u* pSrc, int srcStep, Kvr16u* pDst, int dstStep, KvriSize roiSize, KvrRoundMode roundMode, int scaleFactor);
+KvrStatus kvriConvert_32u32s_C1RSfs(const Kvr32u* pSrc, int srcStep, Kvr32s* pDst, int dstStep, KvriSize roiSize, KvrRoundMode roundMode, int scaleFactor);
+KvrStatus kvriConvert_32u8s_C1RSfs(const Kvr32u* pSrc, int srcStep, Kvr8s* pDst, int dstStep, KvriSize roiSize, KvrRoundMode roundMode, int scaleFactor);
+KvrStatus kvriConvert_32u8u_C1RSfs(const Kvr32u* pSrc, int srcStep, Kvr8u* pDst, int dstStep, KvriSize roiSize, KvrRoundMode roundMode, int scaleFactor);
+KvrStatus kvriConvert_8u8s_C1RSfs(const Kvr8u* pSrc, int srcStep, Kvr8s* pDst, int dstStep, KvriSize roiSize, KvrRoundMode roundMode, int scaleFactor);
+KvrStatus kvriConvert_32f8u_C1RSfs(const Kvr32f* pSrc, int srcStep, Kvr8u* pDst, int dstStep, KvriSize roiSize, KvrRoundMode roundMode, int scaleFactor);
+KvrStatus kvriConvert_32f8s_C1RSfs(const Kvr32f* pSrc, int srcStep, Kvr8s* pDst, int dstStep, KvriSize roiSize, KvrRoundMode roundMode, int scaleFactor);
+KvrStatus kvriConvert_32f16u_C1RSfs(const Kvr32f* pSrc, int srcStep, Kvr16u* pDst, int dstStep, KvriSize roiSize, KvrRoundMode roundMode, int scaleFactor);
+KvrStatus kvriConvert_32f16s_C1RSfs(const Kvr32f* pSrc, int srcStep, Kvr16s* pDst, int dstStep, KvriSize roiSize, KvrRoundMode roundMode, int scaleFactor);
+KvrStatus kvriConvert_32f32s_C1RSfs(const Kvr32f* pSrc, int srcStep, Kvr32s* pDst, int dstStep, KvriSize roiSize, KvrRoundMode roundMode, int scaleFactor);
+KvrStatus kvriConvert_32f32u_C1RSfs(const Kvr32f* pSrc, int srcStep, Kvr32u* pDst, int dstStep, KvriSize roiSize, KvrRoundMode roundMode, int scaleFactor);
+KvrStatus kvriConvert_32f32u_C1IRSfs(Kvr32u* pSrcDst, int srcDstStep, KvriSize roiSize, KvrRoundMode roundMode, int scaleFactor);
+
+/* Convert, one bit to 8u - 0 becomes 0, 1 becomes 255. Eight pixels lie in a byte, the first in the most significant bit.
+ * Each row's first pixel is bit srcBitOffset, counted likewise, from the row's start on; it may be 8 and more. Only bytes
+ * that hold the row's bits are read.
+ * Errors, in this order: null pointer -8, width or height below 1 -6, step below 1 -14, negative offset -6. */
+KvrStatus kvriConvert_1u8u_C1R(const Kvr8u* pSrc, int srcStep, int srcBitOffset, Kvr8u* pDst, int dstStep, KvriSize roiSize);
+
+/* Scale, integers - the range of the source's type linearly onto that of the destination's, rounded to nearest: 8u16s is
+ * v * 257 - 32768, 16u8u is v / 257. AC4 leaves the destination's fourth channel as it is.
+ * Pixel by pixel; the images may not overlap.
+ * Errors, in this order: null pointer -8, width or height below 1 -6, step below 1 -14. */
+KvrStatus kvriScale_8u16u_C1R(const Kvr8u* pSrc, int srcStep, Kvr16u* pDst, int dstStep, KvriSize roiSize);
+KvrStatus kvriScale_8u16u_C3R(const Kvr8u* pSrc, int srcStep, Kvr16u* pDst, int dstStep, KvriSize roiSize);
+KvrStatus kvriScale_8u16u_C4R(const Kvr8u* pSrc, int srcStep, Kvr16u* pDst, int dstStep, KvriSize roiSize);
+KvrStatus kvriScale_8u16u_AC4R(const Kvr8u* pSrc, int srcStep, Kvr16u* pDst, int dstStep, KvriSize roiSize);
+KvrStatus kvriScale_8u16s_C1R(const Kvr8u* pSrc, int srcStep, Kvr16s* pDst, int dstStep, KvriSize roiSize);
+KvrStatus kvriScale_8u16s_C3R(const Kvr8u* pSrc, int srcStep, Kvr16s* pDst, int dstStep, KvriSize roiSize);
+KvrStatus kvriScale_8u16s_C4R(const Kvr8u* pSrc, int srcStep, Kvr16s* pDst, int dstStep, KvriSize roiSize);
+KvrStatus kvriScale_8u16s_AC4R(const Kvr8u* pSrc, int srcStep, Kvr16s* pDst, int dstStep, KvriSize roiSize);
+KvrStatus kvriScale_8u32s_C1R(const Kvr8u* pSrc, int srcStep, Kvr32s* pDst, int dstStep, KvriSize roiSize);
+KvrStatus kvriScale_8u32s_C3R(const Kvr8u* pSrc, int srcStep, Kvr32s* pDst, int dstStep, KvriSize roiSize);
+KvrStatus kvriScale_8u32s_C4R(const Kvr8u* pSrc, int srcStep, Kvr32s* pDst, int dstStep, KvriSize roiSize);
+KvrStatus kvriScale_8u32s_AC4R(const Kvr8u* pSrc, int srcStep, Kvr32s* pDst, int dstStep, KvriSize roiSize);
+KvrStatus kvriScale_16u8u_C1R(const Kvr16u* pSrc, int srcStep, Kvr8u* pDst, int dstStep, KvriSize roiSize);
+KvrStatus kvriScale_16u8u_C3R(const Kvr16u* pSrc, int srcStep, Kvr8u* pDst, int dstStep, KvriSize roiSize);
+KvrStatus kvriScale_16u8u_C4R(const Kvr16u* pSrc, int srcStep, Kvr8u* pDst, int dstStep, KvriSize roiSize);
+KvrStatus kvriScale_16u8u_AC4R(const Kvr16u* pSrc, int srcStep, Kvr8u* pDst, int dstStep, KvriSize roiSize);
+KvrStatus kvriScale_16s8u_C1R(const Kvr16s* pSrc, int srcStep, Kvr8u* pDst, int dstStep, KvriSize roiSize);
+KvrStatus kvriScale_16s8u_C3R(const Kvr16s* pSrc, int srcStep, Kvr8u* pDst, int dstStep, KvriSize roiSize);
+KvrStatus kvriScale_16s8u_C4R(const Kvr16s* pSrc, int srcStep, Kvr8u* pDst, int dstStep, KvriSize roiSize);
+KvrStatus kvriScale_16s8u_AC4R(const Kvr16s* pSrc, int srcStep, Kvr8u* pDst, int dstStep, KvriSize roiSize);
+KvrStatus kvriScale_32s8u_C1R(const Kvr32s* pSrc, int srcStep, Kvr8u* pDst, int dstStep, KvriSize roiSize);
+KvrStatus kvriScale_32s8u_C3R(const Kvr32s* pSrc, int srcStep, Kvr8u* pDst, int dstStep, KvriSize roiSize);
+KvrStatus kvriScale_32s8u_C4R(const Kvr32s* pSrc, int srcStep, Kvr8u* pDst, int dstStep, KvriSize roiSize);
+KvrStatus kvriScale_32s8u_AC4R(const Kvr32s* pSrc, int srcStep, Kvr8u* pDst, int dstStep, KvriSize roiSize);
+
+/* Scale, 8u and 32f - 0 to 255 onto vMin to vMax: 8u32f is vMin + v * ((vMax - vMin) / 255), by the processor's rounding mode
+ * as the caller has set it. 32f8u is v * k - vMin * k where k = 255 / (vMax - vMin), rounded to nearest with ties to even in
+ * any case, and saturated, NaN 0. Every operation is one of single precision.
+ * Errors, in this order: vMax - vMin not above 0 -13, null pointer -8, width or height below 1 -6, step below 1 -14. */
+KvrStatus kvriScale_8u32f_C1R(const Kvr8u* pSrc, int srcStep, Kvr32f* pDst, int dstStep, KvriSize roiSize, Kvr32f vMin, Kvr32f vMax);
+KvrStatus kvriScale_8u32f_C3R(const Kvr8u* pSrc, int srcStep, Kvr32f* pDst, int dstStep, KvriSize roiSize, Kvr32f vMin, Kvr32f vMax);
+KvrStatus kvriScale_8u32f_C4R(const Kvr8u* pSrc, int srcStep, Kvr32f* pDst, int dstStep, KvriSize roiSize, Kvr32f vMin, Kvr32f vMax);
+KvrStatus kvriScale_8u32f_AC4R(const Kvr8u* pSrc, int srcStep, Kvr32f* pDst, int dstStep, KvriSize roiSize, Kvr32f vMin, Kvr32f vMax);
+KvrStatus kvriScale_32f8u_C1R(const Kvr32f* pSrc, int srcStep, Kvr8u* pDst, int dstStep, KvriSize roiSize, Kvr32f vMin, Kvr32f vMax);
+KvrStatus kvriScale_32f8u_C3R(const Kvr32f* pSrc, int srcStep, Kvr8u* pDst, int dstStep, KvriSize roiSize, Kvr32f vMin, Kvr32f vMax);
+KvrStatus kvriScale_32f8u_C4R(const Kvr32f* pSrc, int srcStep, Kvr8u* pDst, int dstStep, KvriSize roiSize, Kvr32f vMin, Kvr32f vMax);
+KvrStatus kvriScale_32f8u_AC4R(const Kvr32f* pSrc, int srcStep, Kvr8u* pDst, int dstStep, KvriSize roiSize, Kvr32f vMin, Kvr32f vMax);
 
 #pragma GCC visibility pop
 #ifdef __cplusplus
