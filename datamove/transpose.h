@@ -1,0 +1,215 @@
+// datamove/transpose.h: source pixel (x, y) to destination pixel (y, x), for pixels of B bytes, of which the first `Chosen`
+// are written.
+//
+// A block is as many columns as fit a lane of 16 bytes. Of pixels of 1, 2, 4, 8 and 16 bytes it has as many rows as fit a
+// vector, each lane transposing a square by zips alone. Of 3, 6 and 12 bytes a lane takes twelve bytes of a row; words of
+// four bytes are zipped, shuffles pick the pixels' bytes out of them, and four such groups of rows close ranks (groups.h).
+//
+// The last blocks of rows and columns reach back into pixels that are already written. Images narrower than a block go
+// through padded scratch.
+#pragma once
+
+#include "core/block.h"
+#include "core/layout.h"
+#include "core/rows.h"
+#include "datamove/copyrow.h"
+#include "datamove/groups.h"
+
+namespace kvri {
+
+template <class T>
+Image<T> upsideDown(Image<T> image, ptrdiff_t height) {
+    image.row += (height - 1) * image.step;
+    image.step = -image.step;
+    return image;
+}
+
+template <class T>
+Image<T> part(Image<T> image, ptrdiff_t x, ptrdiff_t y) {
+    image.row += y * image.step + x * image.pixelBytes;
+    return image;
+}
+
+// Vectors of rows to vectors of columns, of elements of Size bytes: after log2(N) rounds the rows' numbers have taken the
+// place of as many bits of the elements' numbers.
+template <int Size, int N, class V>
+KVRI_INLINE inline void zipRows(V (&v)[N]) {
+    for (int rounds = N; rounds > 1; rounds /= 2) {
+        V zipped[N];
+#pragma GCC unroll 16
+        for (int i = 0; i < N / 2; ++i) {
+            zipped[2 * i] = zipLow<Size>(v[i], v[i + N / 2]);
+            zipped[2 * i + 1] = zipHigh<Size>(v[i], v[i + N / 2]);
+        }
+#pragma GCC unroll 16
+        for (int i = 0; i < N; ++i) v[i] = zipped[i];
+    }
+}
+
+// run(src, step, edge, put) transposes the block at src: put(column, j, v) takes vector j of a destination row. Reads up to
+// `readable` columns, at an `edge` none but the block's.
+template <int B, int W, bool Grouped = B % 3 == 0>
+struct TransposedBlock {
+    using V = Bytes<W>;
+    static constexpr int columns = 16 / B, readable = columns, rows = W / B, vectors = 1;
+    static constexpr std::false_type edge{};
+
+    static KVRI_INLINE void run(const uint8_t* src, ptrdiff_t step, auto, auto put) {
+        V v[columns];
+        unroll<columns>([&](auto i) KVRI_INLINE { v[i] = loadLanes<V>(src + i * step, src + (i + columns) * step); });
+        zipRows<B>(v);
+        unroll<columns>([&](auto i) KVRI_INLINE { put(i, std::integral_constant<int, 0>{}, v[i]); });
+    }
+};
+
+template <int B, int W>
+struct TransposedBlock<B, W, true> {
+    using V = Bytes<W>;
+    static constexpr int columns = 12 / B, readable = (16 + B - 1) / B, rows = 3 * W / B, vectors = 3;
+    static constexpr std::true_type edge{};
+
+private:
+    static constexpr int N = columns, wordsEach = 4 / N;  // words that a zipped vector has of each row
+
+    // Where byte b of the pixel in row i and column c lies: in one zipped vector, or in two that do not collide.
+    static constexpr int vectorOf(int c, int b) { return (c * B + b) / 4 / wordsEach; }
+    static constexpr int placeOf(int c, int i, int b) { return ((c * B + b) / 4 % wordsEach * N + i) * 4 + (c * B + b) % 4; }
+
+    template <int c>
+    static KVRI_INLINE V column(const V (&zipped)[N]) {
+        constexpr int first = vectorOf(c, 0), last = vectorOf(c, B - 1);
+        if constexpr (first == last) return zipped[first];
+        else
+            return blendWhere<V>([](int place) {
+                for (int b = 0; b < B; ++b)
+                    if (vectorOf(c, b) == first && placeOf(c, 0, b) / (4 * N) == place % 16 / (4 * N) &&
+                        placeOf(c, 0, b) % 4 / 2 == place % 4 / 2)
+                        return true;
+                return false;
+            }, zipped[first], zipped[last]);
+    }
+
+    template <int c, int k>
+    static KVRI_INLINE V group(V pixels) {
+        return shuffle(pixels, constant<V>([](int i) {
+            const int byte = groupByte(k, i % 16);
+            return byte < 12 ? placeOf(c, byte / B, byte % B) : 128;
+        }));
+    }
+
+    static KVRI_INLINE V loadWords(const uint8_t* low, const uint8_t* high, auto edge) {
+        if constexpr (!edge) return loadLanes<V>(low, high);
+        const auto twelve = [](const uint8_t* p) KVRI_INLINE {
+            int32_t last;
+            std::memcpy(&last, p + 8, sizeof last);
+            return _mm_unpacklo_epi64(_mm_loadl_epi64(reinterpret_cast<const __m128i*>(p)), _mm_cvtsi32_si128(last));
+        };
+        if constexpr (W == 16) return (V)twelve(low);
+#if defined(__AVX2__)
+        else return (V)_mm256_inserti128_si256(_mm256_castsi128_si256(twelve(low)), twelve(high), 1);
+#endif
+    }
+
+public:
+    static KVRI_INLINE void run(const uint8_t* src, ptrdiff_t step, auto edge, auto put) {
+        V groups[columns][4];
+        unroll<4>([&](auto k) KVRI_INLINE {
+            V v[N];
+            unroll<N>([&](auto i) KVRI_INLINE {
+                const uint8_t* low = src + (k * N + i) * step;
+                v[i] = loadWords(low, low + 4 * N * step, edge);
+            });
+            zipRows<4>(v);
+            unroll<columns>([&](auto c) KVRI_INLINE { groups[c][k] = group<c, k>(column<c>(v)); });
+        });
+        unroll<columns>([&](auto c) KVRI_INLINE {
+            V packed[3];
+            closeRanks(groups[c], packed);
+            unroll<3>([&](auto j) KVRI_INLINE { put(c, j, packed[j]); });
+        });
+    }
+};
+
+template <int B, int Chosen, class V>
+KVRI_INLINE inline void storePixels(auto block, uint8_t* p, V v, ptrdiff_t bytes) {
+    if constexpr (Chosen == B) block.store(p, v, bytes);
+    else block.storeChosen(p, v, choose<V>([](int i) { return i % B < Chosen; }), bytes);
+}
+
+// In blocks of vectors of W bytes, stored by `block`; there is at least one.
+template <int B, int Chosen, int W>
+void transposeBlocks(Image<const uint8_t> src, Image<uint8_t> dst, ptrdiff_t columns, ptrdiff_t rows, auto block) {
+    using T = TransposedBlock<B, W>;
+    const auto at = [&](ptrdiff_t x, ptrdiff_t y, auto edge) KVRI_INLINE {
+        uint8_t* d = dst.row + x * dst.step + y * B;
+        T::run(src.row + y * src.step + x * B, src.step, edge, [&](auto column, auto j, auto v) KVRI_INLINE {
+            storePixels<B, Chosen>(block, d + column * dst.step + j * W, v, W);
+        });
+    };
+    const auto columnsFrom = [&](ptrdiff_t x, auto edge) KVRI_INLINE {
+        ptrdiff_t y = 0;
+        for (; y <= rows - T::rows; y += T::rows) at(x, y, edge);
+        if (y < rows) at(x, rows - T::rows, edge);
+    };
+    ptrdiff_t x = 0;
+    for (; columns - x >= T::readable; x += T::columns) columnsFrom(x, std::false_type{});
+    for (; x < columns; x += T::columns) columnsFrom(std::min(x, columns - T::columns), T::edge);
+}
+
+// Through scratch of whole blocks.
+template <int B, int Chosen>
+void transposeNarrow(Image<const uint8_t> src, Image<uint8_t> dst, ptrdiff_t columns, ptrdiff_t rows) {
+    using T = TransposedBlock<B, 16>;
+    using V = Bytes<16>;
+    alignas(16) uint8_t in[T::rows * 16], out[T::columns][T::vectors * 16];
+    for (ptrdiff_t x = 0; x < columns; x += T::columns)
+        for (ptrdiff_t y = 0; y < rows; y += T::rows) {
+            const ptrdiff_t width = std::min<ptrdiff_t>(columns - x, T::columns), height = std::min<ptrdiff_t>(rows - y, T::rows);
+            for (ptrdiff_t i = 0; i < height; ++i)
+                store(in + i * 16, loadPart<V>(src.row + (y + i) * src.step + x * B, width * B));
+            T::run(in, 16, std::false_type{}, [&](auto c, auto j, V v) KVRI_INLINE { store(out[c] + j * 16, v); });
+            for (ptrdiff_t c = 0; c < width; ++c)
+                for (int j = 0; j < T::vectors; ++j)
+                    storePixels<B, Chosen>(PartBlock{}, dst.row + (x + c) * dst.step + y * B + j * 16, load<V>(out[c] + j * 16),
+                                           height * B - j * 16);
+        }
+}
+
+template <int B, int Chosen>
+void transposeRegion(Image<const uint8_t> src, Image<uint8_t> dst, ptrdiff_t columns, ptrdiff_t rows, auto block) {
+    using Narrow = TransposedBlock<B, 16>;
+    using Wide = TransposedBlock<B, kShuffleBytes>;
+    if (columns < Narrow::columns || rows < Narrow::rows) transposeNarrow<B, Chosen>(src, dst, columns, rows);
+    else if (rows < Wide::rows) transposeBlocks<B, Chosen, 16>(src, dst, columns, rows, WholeBlock{});
+    else transposeBlocks<B, Chosen, kShuffleBytes>(src, dst, columns, rows, block);
+}
+
+template <int B, int Chosen = B>
+void transposeImage(Image<const uint8_t> src, Image<uint8_t> dst, KvriSize roi) {
+    transposeRegion<B, Chosen>(src, dst, roi.width, roi.height, WholeBlock{});
+}
+
+// Square tiles that fit a scratch of some KiB.
+template <int B>
+void transposeInPlace(Image<uint8_t> image, ptrdiff_t size) {
+    constexpr int T = B <= 3 ? 64 : B <= 6 ? 32 : 16, step = T * B;
+    alignas(64) uint8_t scratch[T * step + 16];
+    const auto keep = [&](Image<uint8_t> tile, ptrdiff_t width, ptrdiff_t height) {
+        for (ptrdiff_t y = 0; y < height; ++y) copyRow(tile.row + y * tile.step, scratch + y * step, width * B);
+        return Image<const uint8_t>{scratch, step, B};
+    };
+    for (ptrdiff_t y = 0; y < size; y += T) {
+        const ptrdiff_t height = std::min<ptrdiff_t>(size - y, T);
+        const auto diagonal = part(image, y, y);
+        transposeRegion<B, B>(keep(diagonal, height, height), diagonal, height, height, WholeBlock{});
+        for (ptrdiff_t x = y + T; x < size; x += T) {
+            const ptrdiff_t width = std::min<ptrdiff_t>(size - x, T);
+            const auto right = part(image, x, y), below = part(image, y, x);
+            const auto kept = keep(right, width, height);
+            transposeRegion<B, B>({below.row, below.step, B}, right, height, width, WholeBlock{});
+            transposeRegion<B, B>(kept, below, width, height, WholeBlock{});
+        }
+    }
+}
+
+}  // namespace kvri
