@@ -16,7 +16,8 @@ template <class V>
 KVRI_INLINE inline V loadLanes(const uint8_t* low, [[maybe_unused]] const uint8_t* high) {
     if constexpr (sizeof(V) == 16) return load<V>(low);
 #if defined(__AVX2__)
-    else return (V)_mm256_inserti128_si256(_mm256_castsi128_si256(load<__m128i>(low)), load<__m128i>(high), 1);
+    // A load that repeats and a blend: an insertion would compete with the shuffles.
+    else return halves<0, 1>((V)_mm256_castsi128_si256(load<__m128i>(low)), loadedOnce(broadcastLane<V>(load<Bytes<16>>(high))));
 #endif
 }
 

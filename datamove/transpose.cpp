@@ -14,7 +14,7 @@ template <class T, class L>
 KvrStatus transposedInPlace(T* pSrcDst, int srcDstStep, KvriSize roi) {
     if (KvrStatus e = firstError(nonNull(pSrcDst), hasPixels(roi), isSquare(roi))) return e;
     constexpr int B = sizeof(T) * L::channels;
-    transposeInPlace<B>(destination<B>(pSrcDst, srcDstStep), roi.width);
+    transposeInPlace<B>(reinterpret_cast<uint8_t*>(pSrcDst), srcDstStep, roi.width);
     return kvrStatusOk;
 }
 

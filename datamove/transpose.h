@@ -46,7 +46,23 @@ KVRI_INLINE inline void zipRows(V (&v)[N]) {
     }
 }
 
-// run(src, step, edge, put) transposes the block at src: put(column, j, v) takes vector j of a destination row. Reads up to
+// On to the next row. Opaque, as the compiler would otherwise keep the addresses of all of a block's rows, which are more
+// than it has registers; a short v it must have loaded before.
+template <class T>
+KVRI_INLINE inline void nextRow(T*& row, ptrdiff_t step) {
+    row += step;
+    asm("" : "+r"(row));
+}
+
+template <class V>
+KVRI_INLINE inline void nextRow(const uint8_t*& row, ptrdiff_t step, V& v) {
+    row += step;
+    if constexpr (sizeof v == 16) asm("" : "+r"(row), "+x"(v));
+    else asm("" : "+r"(row));
+}
+
+// run(src, step, edge, put) transposes the block at src: put(column, j, v) takes vector j of a destination row, row by
+// row. Reads up to
 // `readable` columns, at an `edge` none but the block's.
 template <int B, int W, bool Grouped = B % 3 == 0>
 struct TransposedBlock {
@@ -56,7 +72,11 @@ struct TransposedBlock {
 
     static KVRI_INLINE void run(const uint8_t* src, ptrdiff_t step, auto, auto put) {
         V v[columns];
-        unroll<columns>([&](auto i) KVRI_INLINE { v[i] = loadLanes<V>(src + i * step, src + (i + columns) * step); });
+        const ptrdiff_t lane = columns * step;
+        unroll<columns>([&](auto i) KVRI_INLINE {
+            v[i] = loadLanes<V>(src, src + lane);
+            nextRow(src, step, v[i]);
+        });
         zipRows<B>(v);
         unroll<columns>([&](auto i) KVRI_INLINE { put(i, std::integral_constant<int, 0>{}, v[i]); });
     }
@@ -113,11 +133,12 @@ private:
 public:
     static KVRI_INLINE void run(const uint8_t* src, ptrdiff_t step, auto edge, auto put) {
         V groups[columns][4];
+        const ptrdiff_t lane = 4 * N * step;
         unroll<4>([&](auto k) KVRI_INLINE {
             V v[N];
             unroll<N>([&](auto i) KVRI_INLINE {
-                const uint8_t* low = src + (k * N + i) * step;
-                v[i] = loadWords(low, low + 4 * N * step, edge);
+                v[i] = loadWords(src, src + lane, edge);
+                nextRow(src, step, v[i]);
             });
             zipRows<4>(v);
             unroll<columns>([&](auto c) KVRI_INLINE { groups[c][k] = group<c, k>(column<c>(v)); });
@@ -136,14 +157,17 @@ KVRI_INLINE inline void storePixels(auto block, uint8_t* p, V v, ptrdiff_t bytes
     else block.storeChosen(p, v, choose<V>([](int i) { return i % B < Chosen; }), bytes);
 }
 
-// In blocks of vectors of W bytes, stored by `block`; there is at least one.
-template <int B, int Chosen, int W>
-void transposeBlocks(Image<const uint8_t> src, Image<uint8_t> dst, ptrdiff_t columns, ptrdiff_t rows, auto block) {
+// Addresses are passed one by one: records of them would travel through memory, in pieces of other sizes than they are read.
+
+// In blocks of vectors of W bytes, stored by Block; there is at least one.
+template <int B, int Chosen, int W, class Block>
+void transposeBlocks(const uint8_t* src, ptrdiff_t srcStep, uint8_t* dst, ptrdiff_t dstStep, ptrdiff_t columns, ptrdiff_t rows) {
     using T = TransposedBlock<B, W>;
     const auto at = [&](ptrdiff_t x, ptrdiff_t y, auto edge) KVRI_INLINE {
-        uint8_t* d = dst.row + x * dst.step + y * B;
-        T::run(src.row + y * src.step + x * B, src.step, edge, [&](auto column, auto j, auto v) KVRI_INLINE {
-            storePixels<B, Chosen>(block, d + column * dst.step + j * W, v, W);
+        uint8_t* row = dst + x * dstStep + y * B;
+        T::run(src + y * srcStep + x * B, srcStep, edge, [&](auto, auto j, auto v) KVRI_INLINE {
+            storePixels<B, Chosen>(Block{}, row + j * W, v, W);
+            if constexpr (j == T::vectors - 1) nextRow(row, dstStep);
         });
     };
     const auto columnsFrom = [&](ptrdiff_t x, auto edge) KVRI_INLINE {
@@ -158,7 +182,7 @@ void transposeBlocks(Image<const uint8_t> src, Image<uint8_t> dst, ptrdiff_t col
 
 // Through scratch of whole blocks.
 template <int B, int Chosen>
-void transposeNarrow(Image<const uint8_t> src, Image<uint8_t> dst, ptrdiff_t columns, ptrdiff_t rows) {
+void transposeNarrow(const uint8_t* src, ptrdiff_t srcStep, uint8_t* dst, ptrdiff_t dstStep, ptrdiff_t columns, ptrdiff_t rows) {
     using T = TransposedBlock<B, 16>;
     using V = Bytes<16>;
     alignas(16) uint8_t in[T::rows * 16], out[T::columns][T::vectors * 16];
@@ -166,48 +190,46 @@ void transposeNarrow(Image<const uint8_t> src, Image<uint8_t> dst, ptrdiff_t col
         for (ptrdiff_t y = 0; y < rows; y += T::rows) {
             const ptrdiff_t width = std::min<ptrdiff_t>(columns - x, T::columns), height = std::min<ptrdiff_t>(rows - y, T::rows);
             for (ptrdiff_t i = 0; i < height; ++i)
-                store(in + i * 16, loadPart<V>(src.row + (y + i) * src.step + x * B, width * B));
+                store(in + i * 16, loadPart<V>(src + (y + i) * srcStep + x * B, width * B));
             T::run(in, 16, std::false_type{}, [&](auto c, auto j, V v) KVRI_INLINE { store(out[c] + j * 16, v); });
             for (ptrdiff_t c = 0; c < width; ++c)
                 for (int j = 0; j < T::vectors; ++j)
-                    storePixels<B, Chosen>(PartBlock{}, dst.row + (x + c) * dst.step + y * B + j * 16, load<V>(out[c] + j * 16),
+                    storePixels<B, Chosen>(PartBlock{}, dst + (x + c) * dstStep + y * B + j * 16, load<V>(out[c] + j * 16),
                                            height * B - j * 16);
         }
 }
 
-template <int B, int Chosen>
-void transposeRegion(Image<const uint8_t> src, Image<uint8_t> dst, ptrdiff_t columns, ptrdiff_t rows, auto block) {
+template <int B, int Chosen, class Block = WholeBlock>
+KVRI_INLINE inline void transposeRegion(const uint8_t* src, ptrdiff_t srcStep, uint8_t* dst, ptrdiff_t dstStep, ptrdiff_t columns,
+                                        ptrdiff_t rows) {
     using Narrow = TransposedBlock<B, 16>;
     using Wide = TransposedBlock<B, kShuffleBytes>;
-    if (columns < Narrow::columns || rows < Narrow::rows) transposeNarrow<B, Chosen>(src, dst, columns, rows);
-    else if (rows < Wide::rows) transposeBlocks<B, Chosen, 16>(src, dst, columns, rows, WholeBlock{});
-    else transposeBlocks<B, Chosen, kShuffleBytes>(src, dst, columns, rows, block);
+    if (columns < Narrow::columns || rows < Narrow::rows)
+        transposeNarrow<B, Chosen>(src, srcStep, dst, dstStep, columns, rows);
+    else if (rows < Wide::rows)
+        transposeBlocks<B, Chosen, 16, WholeBlock>(src, srcStep, dst, dstStep, columns, rows);
+    else
+        transposeBlocks<B, Chosen, kShuffleBytes, Block>(src, srcStep, dst, dstStep, columns, rows);
 }
 
 template <int B, int Chosen = B>
-void transposeImage(Image<const uint8_t> src, Image<uint8_t> dst, KvriSize roi) {
-    transposeRegion<B, Chosen>(src, dst, roi.width, roi.height, WholeBlock{});
+void transposeImage(const Image<const uint8_t>& src, const Image<uint8_t>& dst, KvriSize roi) {
+    transposeRegion<B, Chosen>(src.row, src.step, dst.row, dst.step, roi.width, roi.height);
 }
 
 // Square tiles that fit a scratch of some KiB.
 template <int B>
-void transposeInPlace(Image<uint8_t> image, ptrdiff_t size) {
-    constexpr int T = B <= 3 ? 64 : B <= 6 ? 32 : 16, step = T * B;
-    alignas(64) uint8_t scratch[T * step + 16];
-    const auto keep = [&](Image<uint8_t> tile, ptrdiff_t width, ptrdiff_t height) {
-        for (ptrdiff_t y = 0; y < height; ++y) copyRow(tile.row + y * tile.step, scratch + y * step, width * B);
-        return Image<const uint8_t>{scratch, step, B};
-    };
+void transposeInPlace(uint8_t* image, ptrdiff_t step, ptrdiff_t size) {
+    constexpr int T = B <= 3 ? 64 : B <= 6 ? 32 : 16, keptStep = T * B;
+    alignas(64) uint8_t kept[T * keptStep];
     for (ptrdiff_t y = 0; y < size; y += T) {
         const ptrdiff_t height = std::min<ptrdiff_t>(size - y, T);
-        const auto diagonal = part(image, y, y);
-        transposeRegion<B, B>(keep(diagonal, height, height), diagonal, height, height, WholeBlock{});
-        for (ptrdiff_t x = y + T; x < size; x += T) {
+        for (ptrdiff_t x = y; x < size; x += T) {
             const ptrdiff_t width = std::min<ptrdiff_t>(size - x, T);
-            const auto right = part(image, x, y), below = part(image, y, x);
-            const auto kept = keep(right, width, height);
-            transposeRegion<B, B>({below.row, below.step, B}, right, height, width, WholeBlock{});
-            transposeRegion<B, B>(kept, below, width, height, WholeBlock{});
+            uint8_t *right = image + y * step + x * B, *below = image + x * step + y * B;
+            for (ptrdiff_t i = 0; i < height; ++i) copyRow(right + i * step, kept + i * keptStep, width * B);
+            if (x > y) transposeRegion<B, B>(below, step, right, step, height, width);
+            transposeRegion<B, B>(kept, keptStep, below, step, width, height);
         }
     }
 }
