@@ -35,22 +35,58 @@ KvrStatus disjoint(const Image<const uint8_t>& src, const Image<uint8_t>& dst, K
 
 // From one image to another
 
+// Rows of one to four blocks of N: calls rows(first of each block ...) once, so that the loop over the rows is the only one.
+// The last block reaches back where it has to. False for other rows.
+template <int N, class Rows>
+KVRI_INLINE inline bool inFewBlocks(ptrdiff_t length, Rows rows) {
+    if (length < N || length > 4 * N) return false;
+    const ptrdiff_t last = length - N;
+    if (length <= N) rows(last);
+    else if (length <= 2 * N) rows(ptrdiff_t(0), last);
+    else if (length <= 3 * N) rows(ptrdiff_t(0), ptrdiff_t(N), last);
+    else rows(ptrdiff_t(0), ptrdiff_t(N), ptrdiff_t(2 * N), last);
+    return true;
+}
+
+template <class Row>
+KVRI_INLINE inline void eachRowPlain(Image<const uint8_t> src, Image<uint8_t> dst, ptrdiff_t height, Row row) {
+    const uint8_t* s = src.row;
+    uint8_t* d = dst.row;
+    for (;; s += src.step, d += dst.step) {
+        row(s, d);
+        if (--height == 0) return;
+    }
+}
+
 template <int B, int Chosen>
 void flipRows(Image<const uint8_t> src, Image<uint8_t> dst, KvriSize roi) {
     dst = upsideDown(dst, roi.height);
-    if constexpr (Chosen == B) copyRows<B>(src, dst, roi, exceedsCache(roi, 2 * B));
-    else
+    if constexpr (Chosen == B) {
+        const bool few = inFewBlocks<kVectorBytes>(ptrdiff_t(roi.width) * B, [&](auto... first) KVRI_INLINE {
+            eachRowPlain(src, dst, roi.height, [=](const uint8_t* s, uint8_t* d) KVRI_INLINE {
+                (store(d + first, load<Bytes<>>(s + first)), ...);
+            });
+        });
+        if (!few) copyRows<B>(src, dst, roi, exceedsCache(roi, 2 * B));
+    } else {
         eachRow(roi, [](auto s, auto d, ptrdiff_t pixels) KVRI_INLINE { writeChannels<B, Chosen, B>(FromImage<B>{s}, d, pixels); },
                 src, dst);
+    }
 }
 
 template <int B, int Chosen>
 void reverseRows(Image<const uint8_t> src, Image<uint8_t> dst, ptrdiff_t width, ptrdiff_t height, bool streamed) {
-    for (ptrdiff_t y = 0;; src.advance(), dst.advance()) {
-        if (Chosen == B && streamed) streamReversedRow<B>(src.row, dst.row, width);
-        else reverseRow<B, Chosen>(src.row, dst.row, width);
-        if (++y == height) break;
-    }
+    constexpr int W = kReversalBytes<B>;
+    const bool few = inFewBlocks<Reversal<B, W>::pixels>(width, [&](auto... first) KVRI_INLINE {
+        eachRowPlain(src, dst, height, [=](const uint8_t* s, uint8_t* d) KVRI_INLINE {
+            (reverseBlock<B, Chosen, W>(s, d, width, first), ...);
+        });
+    });
+    if (few) return;
+    eachRowPlain(src, dst, height, [=](const uint8_t* s, uint8_t* d) KVRI_INLINE {
+        if (Chosen == B && streamed) streamReversedRow<B>(s, d, width);
+        else reverseRow<B, Chosen>(s, d, width);
+    });
     if (streamed) fenceStreams();
 }
 

@@ -34,9 +34,12 @@ struct Reversal {
     // The block at src, reversed.
     static KVRI_INLINE void load(const uint8_t* src, V (&out)[vectors]) {
         if constexpr (grouped) {
-            V group[4];
-            unroll<4>([&](auto k) KVRI_INLINE { group[k] = loadGroup<k>(src); });
-            closeRanks(group, out);
+            V part[4];
+            unroll<4>([&](auto k) KVRI_INLINE { part[k] = loadPart<k>(src); });
+            unroll<3>([&](auto index) KVRI_INLINE {
+                constexpr int j = index;
+                out[j] = blendWhere<V>([](int i) { return (W * j + i) / part_ == j; }, part[j], part[j + 1]);
+            });
         } else {
             out[0] = reverseVector<P>(kvri::load<V>(src));
         }
@@ -51,15 +54,41 @@ struct Reversal {
     }
 
 private:
-    // Group k from the end. A lane reaches over its group's end by four bytes; of the last group, over its beginning.
+    // Four parts of 12 or 24 bytes become three vectors: each is turned such that it lies where these want it.
+    static constexpr int part_ = 12 * (W / 16);
+
+    // Part k from the end, a group in each lane, from a vector that reaches over both its ends, though not over the block's.
     template <int k>
-    static KVRI_INLINE V loadGroup(const uint8_t* src) {
-        constexpr int before = k == 0 ? 4 : 0, last = 3 * W - 12 - before;
-        const V lanes = loadLanes<V>(src + last - 12 * k, src + last - 12 * k - 48);
-        return shuffle(lanes, constant<V>([](int i) {
-            const int b = groupByte(k, i % 16);
-            return b < 12 ? (12 / P - 1 - b / P) * P + b % P + before : 128;
-        }));
+    static KVRI_INLINE V loadPart(const uint8_t* src) {
+        constexpr int first = (3 - k) * part_;
+        if constexpr (W == 16) {
+            constexpr int before = k == 0 ? 4 : 0;
+            return shuffle(kvri::load<V>(src + first - before), constant<V>([](int i) {
+                const int b = groupByte(k, i);
+                return b < 12 ? (12 / P - 1 - b / P) * P + b % P + before : 128;
+            }));
+        } else {
+            const V lanes = k == 0 || k == 3 ? loadWords<k == 0 ? 0 : 1, k == 0 ? 7 : 8>(src + first - 4) : kvri::load<V>(src + first - 4);
+            const V reversed = shuffle(lanes, constant<V>([](int i) {
+                const int b = i % 16;
+                return b < 12 ? (12 / P - 1 - b / P) * P + b % P + (i < 16 ? 4 : 0) : 128;
+            }));
+            return permute4(reversed, [](int i) {
+                const int word = (i + 8 * 3 - 6 * k) % 8;  // of the part; the last lane's group comes first
+                return word < 3 ? 4 + word : word < 6 ? word - 3 : 0;
+            });
+        }
+    }
+
+    // Words [Begin, End) of a vector.
+    template <int Begin, int End>
+    static KVRI_INLINE V loadWords(const uint8_t* p) {
+#if defined(__AVX512BW__)
+        return (V)_mm256_maskz_loadu_epi32((1 << End) - (1 << Begin), p);
+#elif defined(__AVX2__)
+        const V words = constant<V>([](int i) { return i / 4 >= Begin && i / 4 < End ? 255 : 0; });
+        return (V)_mm256_maskload_epi32(reinterpret_cast<const int*>(p), (__m256i)words);
+#endif
     }
 };
 
@@ -86,18 +115,21 @@ struct ReversedPart {
 };
 
 // dst pixel i is src pixel (pixels - 1 - i); the rows do not overlap.
+template <int P, int Chosen, int W>
+KVRI_INLINE inline void reverseBlock(const uint8_t* src, uint8_t* dst, ptrdiff_t pixels, ptrdiff_t first) {
+    using R = Reversal<P, W>;
+    typename R::V v[R::vectors];
+    R::load(src + (pixels - first - R::pixels) * P, v);
+    R::template store<Chosen>(WholeBlock{}, dst + first * P, v);
+}
+
 template <int P, int Chosen = P, int W = kReversalBytes<P>>
 KVRI_INLINE inline void reverseRow(const uint8_t* src, uint8_t* dst, ptrdiff_t pixels) {
     using R = Reversal<P, W>;
     if (pixels >= R::pixels) {
-        const auto at = [&](ptrdiff_t first) KVRI_INLINE {
-            typename R::V v[R::vectors];
-            R::load(src + (pixels - first - R::pixels) * P, v);
-            R::template store<Chosen>(WholeBlock{}, dst + first * P, v);
-        };
         ptrdiff_t first = 0;
-        for (; first <= pixels - R::pixels; first += R::pixels) at(first);
-        if (first < pixels) at(pixels - R::pixels);
+        for (; first <= pixels - R::pixels; first += R::pixels) reverseBlock<P, Chosen, W>(src, dst, pixels, first);
+        if (first < pixels) reverseBlock<P, Chosen, W>(src, dst, pixels, pixels - R::pixels);
     } else if constexpr (W > 16) {
         reverseRow<P, Chosen, W / 2>(src, dst, pixels);
     } else if constexpr (R::pixels > 1) {

@@ -159,14 +159,14 @@ KVRI_INLINE inline void storePixels(auto block, uint8_t* p, V v, ptrdiff_t bytes
 
 // Addresses are passed one by one: records of them would travel through memory, in pieces of other sizes than they are read.
 
-// In blocks of vectors of W bytes, stored by Block; there is at least one.
-template <int B, int Chosen, int W, class Block>
+// In blocks of vectors of W bytes; there is at least one.
+template <int B, int Chosen, int W>
 void transposeBlocks(const uint8_t* src, ptrdiff_t srcStep, uint8_t* dst, ptrdiff_t dstStep, ptrdiff_t columns, ptrdiff_t rows) {
     using T = TransposedBlock<B, W>;
     const auto at = [&](ptrdiff_t x, ptrdiff_t y, auto edge) KVRI_INLINE {
         uint8_t* row = dst + x * dstStep + y * B;
         T::run(src + y * srcStep + x * B, srcStep, edge, [&](auto, auto j, auto v) KVRI_INLINE {
-            storePixels<B, Chosen>(Block{}, row + j * W, v, W);
+            storePixels<B, Chosen>(WholeBlock{}, row + j * W, v, W);
             if constexpr (j == T::vectors - 1) nextRow(row, dstStep);
         });
     };
@@ -199,7 +199,7 @@ void transposeNarrow(const uint8_t* src, ptrdiff_t srcStep, uint8_t* dst, ptrdif
         }
 }
 
-template <int B, int Chosen, class Block = WholeBlock>
+template <int B, int Chosen>
 KVRI_INLINE inline void transposeRegion(const uint8_t* src, ptrdiff_t srcStep, uint8_t* dst, ptrdiff_t dstStep, ptrdiff_t columns,
                                         ptrdiff_t rows) {
     using Narrow = TransposedBlock<B, 16>;
@@ -207,31 +207,105 @@ KVRI_INLINE inline void transposeRegion(const uint8_t* src, ptrdiff_t srcStep, u
     if (columns < Narrow::columns || rows < Narrow::rows)
         transposeNarrow<B, Chosen>(src, srcStep, dst, dstStep, columns, rows);
     else if (rows < Wide::rows)
-        transposeBlocks<B, Chosen, 16, WholeBlock>(src, srcStep, dst, dstStep, columns, rows);
+        transposeBlocks<B, Chosen, 16>(src, srcStep, dst, dstStep, columns, rows);
     else
-        transposeBlocks<B, Chosen, kShuffleBytes, Block>(src, srcStep, dst, dstStep, columns, rows);
+        transposeBlocks<B, Chosen, kShuffleBytes>(src, srcStep, dst, dstStep, columns, rows);
+}
+
+// Large images go tile by tile, each copied row by row into memory first: there its rows do not compete for places in the
+// cache, as those of an image do where its step is a multiple of a large power of two. Rows and columns of a tile are some
+// cache lines long.
+template <int B>
+struct Tile {
+    static constexpr ptrdiff_t rows = B <= 2 || B == 4 ? 128 : B <= 8 ? 64 : 32, columns = B == 1 ? 128 : B <= 8 ? 64 : 32;
+    static constexpr ptrdiff_t step = columns * B, bytes = rows * step;
+};
+
+template <int B>
+KVRI_INLINE inline void takeTile(const uint8_t* src, ptrdiff_t srcStep, uint8_t* tile, ptrdiff_t columns, ptrdiff_t rows) {
+    const auto take = [&](ptrdiff_t bytes) KVRI_INLINE {
+        for (ptrdiff_t y = 0; y < rows; ++y) copyRow(src + y * srcStep, tile + y * Tile<B>::step, bytes);
+    };
+    if (columns == Tile<B>::columns) take(Tile<B>::step);
+    else take(columns * B);
+}
+
+// Into the second-level cache: a tile's rows may have few places in the first.
+inline void prefetchRows(const uint8_t* p, ptrdiff_t step, ptrdiff_t bytes, ptrdiff_t rows) {
+    for (ptrdiff_t y = 0; y < rows; ++y)
+        for (ptrdiff_t i = 0; i < bytes; i += 64) __builtin_prefetch(p + y * step + i, 0, 2);
+}
+
+// Calls f(x, y) for every tile. Neighbours come together, such that the pages of their rows stay known to the processor.
+template <class F>
+void eachTile(ptrdiff_t columns, ptrdiff_t rows, ptrdiff_t tileColumns, ptrdiff_t tileRows, F f) {
+    constexpr ptrdiff_t pages = 512;
+    for (ptrdiff_t top = 0; top < rows; top += pages)
+        for (ptrdiff_t left = 0; left < columns; left += pages)
+            for (ptrdiff_t y = top; y < std::min(rows, top + pages); y += tileRows)
+                for (ptrdiff_t x = left; x < std::min(columns, left + pages); x += tileColumns) f(x, y);
+}
+
+// Whole tiles whose destination rows are whole cache lines, past the caches.
+template <int B>
+void streamTile(const uint8_t* tile, uint8_t* dst, ptrdiff_t dstStep) {
+    using T = Tile<B>;
+    constexpr int row = T::rows * B;
+    alignas(64) uint8_t turned[T::bytes];
+    transposeRegion<B, B>(tile, T::step, turned, row, T::columns, T::rows);
+    for (ptrdiff_t x = 0; x < T::columns; ++x)
+        for (int i = 0; i < row; i += kVectorBytes) stream(dst + x * dstStep + i, load<Bytes<>>(turned + x * row + i));
+}
+
+// `far`: beyond the caches. There is at least a block.
+template <int B, int Chosen>
+void transposeTiles(const uint8_t* src, ptrdiff_t srcStep, uint8_t* dst, ptrdiff_t dstStep, ptrdiff_t columns, ptrdiff_t rows, bool far) {
+    using Narrow = TransposedBlock<B, 16>;
+    using T = Tile<B>;
+    const bool streamed = far && Chosen == B && (reinterpret_cast<uintptr_t>(dst) | uintptr_t(dstStep)) % 64 == 0;
+    alignas(64) uint8_t tile[T::bytes];
+    eachTile(columns, rows, T::columns, T::rows, [&](ptrdiff_t x, ptrdiff_t y) {
+        // What is left at the end is at least a block, be it one that is partly done.
+        x = std::min<ptrdiff_t>(x, columns - Narrow::columns), y = std::min<ptrdiff_t>(y, rows - Narrow::rows);
+        const ptrdiff_t width = std::min(columns - x, T::columns), height = std::min(rows - y, T::rows);
+        const bool streamedTile = streamed && width == T::columns && height == T::rows;
+        const uint8_t* s = src + y * srcStep + x * B;
+        uint8_t* d = dst + x * dstStep + y * B;
+        if (far && !streamedTile) prefetchRows(d, dstStep, height * B, width);
+        takeTile<B>(s, srcStep, tile, width, height);
+        if (far) prefetchRows(s + T::step, srcStep, T::step, height);
+        if (streamedTile) streamTile<B>(tile, d, dstStep);
+        else transposeRegion<B, Chosen>(tile, T::step, d, dstStep, width, height);
+    });
+    if (streamed) fenceStreams();
 }
 
 template <int B, int Chosen = B>
 void transposeImage(const Image<const uint8_t>& src, const Image<uint8_t>& dst, KvriSize roi) {
-    transposeRegion<B, Chosen>(src.row, src.step, dst.row, dst.step, roi.width, roi.height);
+    using Narrow = TransposedBlock<B, 16>;
+    constexpr ptrdiff_t firstLevelCache = 32768;
+    const ptrdiff_t columns = roi.width, rows = roi.height;
+    if (columns * rows * B > firstLevelCache && columns >= Narrow::columns && rows >= Narrow::rows)
+        transposeTiles<B, Chosen>(src.row, src.step, dst.row, dst.step, columns, rows, exceedsCache(roi, 4 * B));
+    else
+        transposeRegion<B, Chosen>(src.row, src.step, dst.row, dst.step, columns, rows);
 }
 
-// Square tiles that fit a scratch of some KiB.
+// Square tiles change places in pairs.
 template <int B>
 void transposeInPlace(uint8_t* image, ptrdiff_t step, ptrdiff_t size) {
-    constexpr int T = B <= 3 ? 64 : B <= 6 ? 32 : 16, keptStep = T * B;
-    alignas(64) uint8_t kept[T * keptStep];
-    for (ptrdiff_t y = 0; y < size; y += T) {
-        const ptrdiff_t height = std::min<ptrdiff_t>(size - y, T);
-        for (ptrdiff_t x = y; x < size; x += T) {
-            const ptrdiff_t width = std::min<ptrdiff_t>(size - x, T);
-            uint8_t *right = image + y * step + x * B, *below = image + x * step + y * B;
-            for (ptrdiff_t i = 0; i < height; ++i) copyRow(right + i * step, kept + i * keptStep, width * B);
-            if (x > y) transposeRegion<B, B>(below, step, right, step, height, width);
-            transposeRegion<B, B>(kept, keptStep, below, step, width, height);
-        }
-    }
+    using T = Tile<B>;
+    const bool far = exceedsCache({int(size), int(size)}, 4 * B);
+    alignas(64) uint8_t tile[T::columns * T::step];
+    eachTile(size, size, T::columns, T::columns, [&](ptrdiff_t x, ptrdiff_t y) {
+        if (x < y) return;
+        const ptrdiff_t width = std::min(size - x, T::columns), height = std::min(size - y, T::columns);
+        uint8_t *right = image + y * step + x * B, *below = image + x * step + y * B;
+        if (far) prefetchRows(below, step, height * B, width);
+        takeTile<B>(right, step, tile, width, height);
+        if (x > y) transposeRegion<B, B>(below, step, right, step, height, width);
+        transposeRegion<B, B>(tile, T::step, below, step, width, height);
+    });
 }
 
 }  // namespace kvri
