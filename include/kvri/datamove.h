@@ -542,6 +542,98 @@ KvrStatus kvriScale_32f8u_C1R(const Kvr32f* pSrc, int srcStep, Kvr8u* pDst, int 
 KvrStatus kvriScale_32f8u_C3R(const Kvr32f* pSrc, int srcStep, Kvr8u* pDst, int dstStep, KvriSize roiSize, Kvr32f vMin, Kvr32f vMax);
 KvrStatus kvriScale_32f8u_C4R(const Kvr32f* pSrc, int srcStep, Kvr8u* pDst, int dstStep, KvriSize roiSize, Kvr32f vMin, Kvr32f vMax);
 KvrStatus kvriScale_32f8u_AC4R(const Kvr32f* pSrc, int srcStep, Kvr8u* pDst, int dstStep, KvriSize roiSize, Kvr32f vMin, Kvr32f vMax);
+/* Mirror - the image turned about the line that KvriAxis names: about the horizontal axis (rows change places), the vertical
+ * axis (each row is reversed), both, the main diagonal, or the other diagonal. Of the latter two the destination is
+ * roiSize.height pixels wide and roiSize.width high. AC4 leaves the destination's fourth channel as it is.
+ * Source and destination may not overlap, but they may be one image: equal pointers and equal steps with axis 0, 1 or 2
+ * work in place.
+ * Errors, in this order, of axes 0, 1 and 2: in one image those of the in-place form; null pointer -8, width or height below
+ * 1 -6, any axis but 0 to 4 -21, height below 2 for axes 0 and 2 or width below 2 for axes 1 and 2 -6. Any step is accepted.
+ * Of axes 3 and 4: null pointer -8, step below 1 -14, width or height below 1 -6, memory of the source (first byte of the
+ * first row to last byte of the last) that overlaps the destination's -9999, so in one image always. */
+KvrStatus kvriMirror_8u_C1R(const Kvr8u* pSrc, int srcStep, Kvr8u* pDst, int dstStep, KvriSize roiSize, KvriAxis axis);
+KvrStatus kvriMirror_8u_C3R(const Kvr8u* pSrc, int srcStep, Kvr8u* pDst, int dstStep, KvriSize roiSize, KvriAxis axis);
+KvrStatus kvriMirror_8u_C4R(const Kvr8u* pSrc, int srcStep, Kvr8u* pDst, int dstStep, KvriSize roiSize, KvriAxis axis);
+KvrStatus kvriMirror_8u_AC4R(const Kvr8u* pSrc, int srcStep, Kvr8u* pDst, int dstStep, KvriSize roiSize, KvriAxis axis);
+KvrStatus kvriMirror_16u_C1R(const Kvr16u* pSrc, int srcStep, Kvr16u* pDst, int dstStep, KvriSize roiSize, KvriAxis axis);
+KvrStatus kvriMirror_16u_C3R(const Kvr16u* pSrc, int srcStep, Kvr16u* pDst, int dstStep, KvriSize roiSize, KvriAxis axis);
+KvrStatus kvriMirror_16u_C4R(const Kvr16u* pSrc, int srcStep, Kvr16u* pDst, int dstStep, KvriSize roiSize, KvriAxis axis);
+KvrStatus kvriMirror_16u_AC4R(const Kvr16u* pSrc, int srcStep, Kvr16u* pDst, int dstStep, KvriSize roiSize, KvriAxis axis);
+KvrStatus kvriMirror_16s_C1R(const Kvr16s* pSrc, int srcStep, Kvr16s* pDst, int dstStep, KvriSize roiSize, KvriAxis axis);
+KvrStatus kvriMirror_16s_C3R(const Kvr16s* pSrc, int srcStep, Kvr16s* pDst, int dstStep, KvriSize roiSize, KvriAxis axis);
+KvrStatus kvriMirror_16s_C4R(const Kvr16s* pSrc, int srcStep, Kvr16s* pDst, int dstStep, KvriSize roiSize, KvriAxis axis);
+KvrStatus kvriMirror_16s_AC4R(const Kvr16s* pSrc, int srcStep, Kvr16s* pDst, int dstStep, KvriSize roiSize, KvriAxis axis);
+KvrStatus kvriMirror_32s_C1R(const Kvr32s* pSrc, int srcStep, Kvr32s* pDst, int dstStep, KvriSize roiSize, KvriAxis axis);
+KvrStatus kvriMirror_32s_C3R(const Kvr32s* pSrc, int srcStep, Kvr32s* pDst, int dstStep, KvriSize roiSize, KvriAxis axis);
+KvrStatus kvriMirror_32s_C4R(const Kvr32s* pSrc, int srcStep, Kvr32s* pDst, int dstStep, KvriSize roiSize, KvriAxis axis);
+KvrStatus kvriMirror_32s_AC4R(const Kvr32s* pSrc, int srcStep, Kvr32s* pDst, int dstStep, KvriSize roiSize, KvriAxis axis);
+KvrStatus kvriMirror_32f_C1R(const Kvr32f* pSrc, int srcStep, Kvr32f* pDst, int dstStep, KvriSize roiSize, KvriAxis axis);
+KvrStatus kvriMirror_32f_C3R(const Kvr32f* pSrc, int srcStep, Kvr32f* pDst, int dstStep, KvriSize roiSize, KvriAxis axis);
+KvrStatus kvriMirror_32f_C4R(const Kvr32f* pSrc, int srcStep, Kvr32f* pDst, int dstStep, KvriSize roiSize, KvriAxis axis);
+KvrStatus kvriMirror_32f_AC4R(const Kvr32f* pSrc, int srcStep, Kvr32f* pDst, int dstStep, KvriSize roiSize, KvriAxis axis);
+
+/* Mirror in place - axes 0, 1 and 2 alone. AC4 moves the colours; every alpha stays where it is.
+ * Errors, in this order: null pointer -8, width or height below 1 -6, any other axis -21, height below 2 for axes 0 and 2
+ * or width below 2 for axes 1 and 2 -6. Any step is accepted. */
+KvrStatus kvriMirror_8u_C1IR(Kvr8u* pSrcDst, int srcDstStep, KvriSize roiSize, KvriAxis axis);
+KvrStatus kvriMirror_8u_C3IR(Kvr8u* pSrcDst, int srcDstStep, KvriSize roiSize, KvriAxis axis);
+KvrStatus kvriMirror_8u_C4IR(Kvr8u* pSrcDst, int srcDstStep, KvriSize roiSize, KvriAxis axis);
+KvrStatus kvriMirror_8u_AC4IR(Kvr8u* pSrcDst, int srcDstStep, KvriSize roiSize, KvriAxis axis);
+KvrStatus kvriMirror_16u_C1IR(Kvr16u* pSrcDst, int srcDstStep, KvriSize roiSize, KvriAxis axis);
+KvrStatus kvriMirror_16u_C3IR(Kvr16u* pSrcDst, int srcDstStep, KvriSize roiSize, KvriAxis axis);
+KvrStatus kvriMirror_16u_C4IR(Kvr16u* pSrcDst, int srcDstStep, KvriSize roiSize, KvriAxis axis);
+KvrStatus kvriMirror_16u_AC4IR(Kvr16u* pSrcDst, int srcDstStep, KvriSize roiSize, KvriAxis axis);
+KvrStatus kvriMirror_16s_C1IR(Kvr16s* pSrcDst, int srcDstStep, KvriSize roiSize, KvriAxis axis);
+KvrStatus kvriMirror_16s_C3IR(Kvr16s* pSrcDst, int srcDstStep, KvriSize roiSize, KvriAxis axis);
+KvrStatus kvriMirror_16s_C4IR(Kvr16s* pSrcDst, int srcDstStep, KvriSize roiSize, KvriAxis axis);
+KvrStatus kvriMirror_16s_AC4IR(Kvr16s* pSrcDst, int srcDstStep, KvriSize roiSize, KvriAxis axis);
+KvrStatus kvriMirror_32s_C1IR(Kvr32s* pSrcDst, int srcDstStep, KvriSize roiSize, KvriAxis axis);
+KvrStatus kvriMirror_32s_C3IR(Kvr32s* pSrcDst, int srcDstStep, KvriSize roiSize, KvriAxis axis);
+KvrStatus kvriMirror_32s_C4IR(Kvr32s* pSrcDst, int srcDstStep, KvriSize roiSize, KvriAxis axis);
+KvrStatus kvriMirror_32s_AC4IR(Kvr32s* pSrcDst, int srcDstStep, KvriSize roiSize, KvriAxis axis);
+KvrStatus kvriMirror_32f_C1IR(Kvr32f* pSrcDst, int srcDstStep, KvriSize roiSize, KvriAxis axis);
+KvrStatus kvriMirror_32f_C3IR(Kvr32f* pSrcDst, int srcDstStep, KvriSize roiSize, KvriAxis axis);
+KvrStatus kvriMirror_32f_C4IR(Kvr32f* pSrcDst, int srcDstStep, KvriSize roiSize, KvriAxis axis);
+KvrStatus kvriMirror_32f_AC4IR(Kvr32f* pSrcDst, int srcDstStep, KvriSize roiSize, KvriAxis axis);
+
+/* Transpose - destination pixel (x, y) is source pixel (y, x): the destination is srcRoiSize.height pixels wide and
+ * srcRoiSize.width high. Source and destination may not overlap, but they may be one image: equal pointers and equal steps
+ * work in place.
+ * Errors, in this order: in one image those of the in-place form; null pointer -8, width or height below 1 -6. Any step is
+ * accepted. */
+KvrStatus kvriTranspose_8u_C1R(const Kvr8u* pSrc, int srcStep, Kvr8u* pDst, int dstStep, KvriSize srcRoiSize);
+KvrStatus kvriTranspose_8u_C3R(const Kvr8u* pSrc, int srcStep, Kvr8u* pDst, int dstStep, KvriSize srcRoiSize);
+KvrStatus kvriTranspose_8u_C4R(const Kvr8u* pSrc, int srcStep, Kvr8u* pDst, int dstStep, KvriSize srcRoiSize);
+KvrStatus kvriTranspose_16u_C1R(const Kvr16u* pSrc, int srcStep, Kvr16u* pDst, int dstStep, KvriSize srcRoiSize);
+KvrStatus kvriTranspose_16u_C3R(const Kvr16u* pSrc, int srcStep, Kvr16u* pDst, int dstStep, KvriSize srcRoiSize);
+KvrStatus kvriTranspose_16u_C4R(const Kvr16u* pSrc, int srcStep, Kvr16u* pDst, int dstStep, KvriSize srcRoiSize);
+KvrStatus kvriTranspose_16s_C1R(const Kvr16s* pSrc, int srcStep, Kvr16s* pDst, int dstStep, KvriSize srcRoiSize);
+KvrStatus kvriTranspose_16s_C3R(const Kvr16s* pSrc, int srcStep, Kvr16s* pDst, int dstStep, KvriSize srcRoiSize);
+KvrStatus kvriTranspose_16s_C4R(const Kvr16s* pSrc, int srcStep, Kvr16s* pDst, int dstStep, KvriSize srcRoiSize);
+KvrStatus kvriTranspose_32s_C1R(const Kvr32s* pSrc, int srcStep, Kvr32s* pDst, int dstStep, KvriSize srcRoiSize);
+KvrStatus kvriTranspose_32s_C3R(const Kvr32s* pSrc, int srcStep, Kvr32s* pDst, int dstStep, KvriSize srcRoiSize);
+KvrStatus kvriTranspose_32s_C4R(const Kvr32s* pSrc, int srcStep, Kvr32s* pDst, int dstStep, KvriSize srcRoiSize);
+KvrStatus kvriTranspose_32f_C1R(const Kvr32f* pSrc, int srcStep, Kvr32f* pDst, int dstStep, KvriSize srcRoiSize);
+KvrStatus kvriTranspose_32f_C3R(const Kvr32f* pSrc, int srcStep, Kvr32f* pDst, int dstStep, KvriSize srcRoiSize);
+KvrStatus kvriTranspose_32f_C4R(const Kvr32f* pSrc, int srcStep, Kvr32f* pDst, int dstStep, KvriSize srcRoiSize);
+
+/* Transpose in place - errors, in this order: null pointer -8, width or height below 1, or one unlike the other -6. Any step
+ * is accepted. */
+KvrStatus kvriTranspose_8u_C1IR(Kvr8u* pSrcDst, int srcDstStep, KvriSize roiSize);
+KvrStatus kvriTranspose_8u_C3IR(Kvr8u* pSrcDst, int srcDstStep, KvriSize roiSize);
+KvrStatus kvriTranspose_8u_C4IR(Kvr8u* pSrcDst, int srcDstStep, KvriSize roiSize);
+KvrStatus kvriTranspose_16u_C1IR(Kvr16u* pSrcDst, int srcDstStep, KvriSize roiSize);
+KvrStatus kvriTranspose_16u_C3IR(Kvr16u* pSrcDst, int srcDstStep, KvriSize roiSize);
+KvrStatus kvriTranspose_16u_C4IR(Kvr16u* pSrcDst, int srcDstStep, KvriSize roiSize);
+KvrStatus kvriTranspose_16s_C1IR(Kvr16s* pSrcDst, int srcDstStep, KvriSize roiSize);
+KvrStatus kvriTranspose_16s_C3IR(Kvr16s* pSrcDst, int srcDstStep, KvriSize roiSize);
+KvrStatus kvriTranspose_16s_C4IR(Kvr16s* pSrcDst, int srcDstStep, KvriSize roiSize);
+KvrStatus kvriTranspose_32s_C1IR(Kvr32s* pSrcDst, int srcDstStep, KvriSize roiSize);
+KvrStatus kvriTranspose_32s_C3IR(Kvr32s* pSrcDst, int srcDstStep, KvriSize roiSize);
+KvrStatus kvriTranspose_32s_C4IR(Kvr32s* pSrcDst, int srcDstStep, KvriSize roiSize);
+KvrStatus kvriTranspose_32f_C1IR(Kvr32f* pSrcDst, int srcDstStep, KvriSize roiSize);
+KvrStatus kvriTranspose_32f_C3IR(Kvr32f* pSrcDst, int srcDstStep, KvriSize roiSize);
+KvrStatus kvriTranspose_32f_C4IR(Kvr32f* pSrcDst, int srcDstStep, KvriSize roiSize);
 
 #pragma GCC visibility pop
 #ifdef __cplusplus
