@@ -3,8 +3,6 @@
 // Interval k takes the points k - 1 to k + 2, the first and last intervals the first and last four; of fewer levels there are
 // fewer points, and the polynomial is of lower degree. Where points share a level and none goes through them, the interval
 // is a straight line.
-#include <cmath>
-
 #include "kvri/pointops.h"
 #include "pointops/lut.h"
 #include "pointops/lutfloat.h"
@@ -48,11 +46,19 @@ Polynomial throughPoints(const Level* levels, const Level* values, int points) {
     return {origin, c0, c[0], c[1], c[2]};
 }
 
+// No two the same, none a NaN: the determinant of levels that are not may still not come out as 0.
+template <class Level>
+bool areDistinct(const Level* levels, int points) {
+    for (int i = 0; i < points; ++i)
+        for (int j = 0; j < i; ++j)
+            if (!(levels[i] < levels[j] || levels[i] > levels[j])) return false;
+    return true;
+}
+
 template <class T>
 Polynomial polynomial(const Curve<T>& curve, int k) {
-    const int first = std::max(0, std::min(k - 1, curve.n - 4));
-    const Polynomial p = throughPoints(curve.levels + first, curve.values + first, std::min(curve.n, 4));
-    if (std::isfinite(p.c1) && std::isfinite(p.c2) && std::isfinite(p.c3)) return p;
+    const int first = std::max(0, std::min(k - 1, curve.n - 4)), points = std::min(curve.n, 4);
+    if (areDistinct(curve.levels + first, points)) return throughPoints(curve.levels + first, curve.values + first, points);
     return throughPoints(curve.levels + k, curve.values + k, 2);
 }
 
