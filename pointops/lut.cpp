@@ -11,6 +11,7 @@ struct Step {
 
     template <class T>
     struct Piece {
+        static constexpr bool isConstant = true;
         T value;
         T operator()(int) const { return value; }
     };

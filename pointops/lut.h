@@ -44,19 +44,27 @@ constexpr int firstFrom(Kvr32s level) { return std::clamp<Kvr32s>(level, kLeast<
 template <class T>
 constexpr T saturated(Kvr32s value) { return T(std::clamp<Kvr32s>(value, kLeast<T>, kEnd<T> - 1)); }
 
-template <class T>
-constexpr double saturated(double value) {
+// What becomes of a piece's value v: it is saturated, and v + add is cut off toward zero, to a number that is `more` too high.
+struct CutOff {
+    template <class T>
+    static constexpr int more = 0;
+    template <class T>
+    static constexpr double add = 0;
+};
+struct HalfUp {
+    template <class T>
+    static constexpr int more = -kLeast<T>;
+    template <class T>
+    static constexpr double add = more<T> + 0.5;
+};
+
+template <class T, class Rounding>
+inline T rounded(double value) {
     constexpr double least = kLeast<T>, most = kEnd<T> - 1;
+    value = value < most ? value : most;
     value = value > least ? value : least;
-    return value < most ? value : most;
+    return T(int(value + Rounding::template add<T>) - Rounding::template more<T>);
 }
-
-template <class T>
-constexpr T cutOff(double value) { return T(int(saturated<T>(value))); }
-
-// To nearest, halves up.
-template <class T>
-constexpr T rounded(double value) { return T(int(saturated<T>(value) - kLeast<T> + 0.5) + kLeast<T>); }
 
 // Interval k: the samples that it covers, of which there may be none.
 template <class T>
@@ -70,6 +78,36 @@ void leaveAlone(T* table, int first, int end) {
     for (int i = first; i < end; ++i) table[i - kLeast<T>] = T(i);
 }
 
+// As many samples as a vector has 32s; two vectors of double precision hold their values.
+template <class T, class Rounding>
+inline auto rounded(Vec<double> first, Vec<double> second) {
+    using D = Vec<double>;
+    const auto half = [](D v) KVRI_INLINE {
+        const D value = clamp(v, splat<D>(kLeast<T>), splat<D>(kEnd<T> - 1));
+        return towardZeroHalf(value + splat<D>(Rounding::template add<T>));
+    };
+    const auto all = joinHalves(half(first), half(second)) - Rounding::template more<T>;
+    return __builtin_convertvector(all, Vec<T, kVectorBytes / 4 * sizeof(T)>);
+}
+
+// table[i - first] = piece(i)
+template <class Piece, class T>
+void fillInterval(const Piece& piece, Interval<T> interval, T* table) {
+    const int n = interval.end - interval.first;
+    if constexpr (Piece::isConstant) {
+        std::fill_n(table, n, piece(0));
+    } else {
+        constexpr int lanes = kVectorBytes / sizeof(double);
+        using D = Vec<double>;
+        D i;
+        for (int lane = 0; lane < lanes; ++lane) i[lane] = interval.first + lane;
+        int at = 0;
+        for (; n - at >= 2 * lanes; at += 2 * lanes, i += 2 * lanes)
+            store(table + at, rounded<T, typename Piece::Rounding>(piece.at(i), piece.at(i + lanes)));
+        for (; at < n; ++at) table[at] = piece(interval.first + at);
+    }
+}
+
 // table[i - kLeast] becomes what sample i is mapped to. Later intervals overwrite earlier ones.
 template <class Family, class T>
 void fillTable(const Curve<T>& curve, T* table) {
@@ -77,8 +115,7 @@ void fillTable(const Curve<T>& curve, T* table) {
     for (int k = 0; k + 1 < curve.n; ++k) {
         const Interval<T> interval(curve, k);
         if (interval.first >= interval.end) continue;
-        const auto piece = Family::piece(curve, k, interval);
-        for (int i = interval.first; i < interval.end; ++i) table[i - kLeast<T>] = piece(i);
+        fillInterval(Family::piece(curve, k, interval), interval, table + interval.first - kLeast<T>);
     }
     leaveAlone(table, firstFrom<T>(curve.levels[curve.n - 1]), kEnd<T>);
 }
@@ -90,18 +127,21 @@ constexpr int kFewLevels = 64;
 // The value of the last level that is not above the sample.
 template <class T>
 class Steps {
-    T level_[kFewLevels], value_[kFewLevels];
+    using V = Vec<T>;
+    V level_[kFewLevels], value_[kFewLevels];
     int n_ = 0;
+
+    static V pair(int n) { return (V)splat<Vec<uint32_t>>((uint32_t(n) & 0xFFFF) * 0x10001); }
 
 public:
     // Levels rise. Samples never reach those beyond the type.
     void add(Kvr32s level, T value) {
         if (level >= kEnd<T>) return;
-        level_[n_] = T(firstFrom<T>(level));
-        value_[n_++] = value;
+        level_[n_] = pair(firstFrom<T>(level));
+        value_[n_++] = pair(value);
     }
-    Vec<T> operator()(Vec<T> x, Vec<T> below) const {
-        for (int k = 0; k < n_; ++k) below = x >= splat<Vec<T>>(level_[k]) ? splat<Vec<T>>(value_[k]) : below;
+    V operator()(V x, V below) const {
+        for (int k = 0; k < n_; ++k) below = x >= level_[k] ? value_[k] : below;
         return below;
     }
 };

@@ -13,8 +13,9 @@ namespace {
 // origin, and the coefficients of 1, d, d^2, d^3 of a sample at the distance d from it.
 struct Polynomial {
     double origin, c0, c1, c2, c3;
-    double at(double x) const {
-        const double d = x - origin;
+    template <class D>
+    D at(D x) const {
+        const D d = x - origin;
         return c0 + d * (c1 + d * (c2 + d * c3));
     }
 };
@@ -77,9 +78,9 @@ public:
     float operator()(int number, float x) {
         if (number == 0) return x;
         const int k = number - 1;
-        if (k < kFewLevels) return float(piece_[k].at(x));
+        if (k < kFewLevels) return float(piece_[k].at(double(x)));
         if (k != madeFor_) made_ = polynomial(*curve_, madeFor_ = k);
-        return float(made_.at(x));
+        return float(made_.at(double(x)));
     }
 };
 
@@ -88,7 +89,9 @@ struct Cubic {
 
     template <class T>
     struct Piece : Polynomial {
-        T operator()(int i) const { return rounded<T>(at(i)); }
+        using Rounding = HalfUp;
+        static constexpr bool isConstant = false;
+        T operator()(int i) const { return rounded<T, Rounding>(at(double(i))); }
         static constexpr Piece identity() { return {{0, 0, 1, 0, 0}}; }
     };
 

@@ -12,8 +12,12 @@ struct Linear {
     // Of integers, in double precision; the offset holds the half that rounds, as the result is cut off.
     template <class T>
     struct Piece {
+        using Rounding = CutOff;
+        static constexpr bool isConstant = false;
         double slope, offset;
-        T operator()(int i) const { return cutOff<T>(i * slope + offset); }
+        template <class D>
+        D at(D i) const { return i * slope + offset; }
+        T operator()(int i) const { return rounded<T, Rounding>(at(double(i))); }
         static constexpr Piece identity() { return {1, 0}; }
     };
 

@@ -22,6 +22,7 @@ constexpr KvrStatus checkPalette(KvriSize roi, int nBitSize, int srcStep, int ds
 
 // All 256 entries, repeated where bits are masked off.
 ByteTable repeated(const Kvr8u* entries, int bits) {
+    if (bits == 8) return ByteTable(entries);
     Kvr8u table[256];
     for (int i = 0; i < 256; i += 1 << bits) std::memcpy(table + i, entries, size_t(1) << bits);
     return ByteTable(table);
@@ -57,9 +58,10 @@ void mapTablesBesideZeros(const Kvr8u* const pTable[3], int bits, const Images& 
 
 template <class L>
 void mapTables(const Kvr16u* const pTable[L::colours], int bits, const Images& images) {
-    const unsigned mask = (1u << bits) - 1;
-    images.eachRow<L::channels * sizeof(Kvr16u)>([&](const uint8_t* s, uint8_t* d, ptrdiff_t pixels) {
-        mapSamples<Kvr16u, L>([&](auto c, ptrdiff_t, Kvr16u x) KVRI_INLINE { return pTable[c][x & mask]; }, s, d, pixels);
+    std::array<const Kvr16u*, L::colours> table;
+    std::copy_n(pTable, L::colours, table.begin());
+    images.eachRow<L::channels * sizeof(Kvr16u)>([=, mask = (1u << bits) - 1](const uint8_t* s, uint8_t* d, ptrdiff_t pixels) {
+        mapSamples<Kvr16u, L>([=](auto c, ptrdiff_t, Kvr16u x) KVRI_INLINE { return table[c][x & mask]; }, s, d, pixels);
     });
 }
 
