@@ -311,6 +311,15 @@ inline V fusedMultiplyAdd(V a, V b, V c) {
 }
 #endif
 
+// The same toward zero.
+inline Vec<int32_t, 8> towardZeroHalf(Vec<double, 16> v) { return lowerHalf((Vec<int32_t, 16>)_mm_cvttpd_epi32((__m128d)v)); }
+#if defined(__AVX2__)
+inline Vec<int32_t, 16> towardZeroHalf(Vec<double, 32> v) { return (Vec<int32_t, 16>)_mm256_cvttpd_epi32((__m256d)v); }
+#endif
+#if defined(__AVX512BW__)
+inline Vec<int32_t, 32> towardZeroHalf(Vec<double, 64> v) { return (Vec<int32_t, 32>)_mm512_cvttpd_epi32((__m512d)v); }
+#endif
+
 // The number of the range low to high that is nearest to v; v is no NaN.
 template <class V>
 inline V clamp(V v, V low, V high) {

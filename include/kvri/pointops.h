@@ -503,6 +503,175 @@ KvrStatus kvriDiv_Round_16s_C3IRSfs(const Kvr16s* pSrc, int srcStep, Kvr16s* pSr
 KvrStatus kvriDiv_Round_16s_C4IRSfs(const Kvr16s* pSrc, int srcStep, Kvr16s* pSrcDst, int srcDstStep, KvriSize roiSize, KvrRoundMode rndMode, int scaleFactor);
 KvrStatus kvriDiv_Round_16s_AC4IRSfs(const Kvr16s* pSrc, int srcStep, Kvr16s* pSrcDst, int srcDstStep, KvriSize roiSize, KvrRoundMode rndMode, int scaleFactor);
 
+/* Lookup tables. Level k and the next bound the interval [pLevels[k], pLevels[k + 1]), k = 0 .. nLevels - 2; the samples in it
+ * are mapped as pValues tells. Samples below the first level or from the last on stay as they are. Of the multi-channel forms
+ * pValues, pLevels and nLevels are arrays with an entry per processed channel. Levels may lie outside the sample type's range
+ * and need not rise: an interval that is empty is passed over. Where intervals overlap, of integers the one with the higher
+ * index maps a sample (and none, from the last level on), of 32f the one with the lowest.
+ *
+ * Pixel by pixel, no neighbourhood. IR works in place; AC4 processes three channels and leaves the destination's fourth as it
+ * is. Work memory is on the stack: up to 128 KiB per channel of 16-bit samples.
+ * Errors, in this order: null pointer -8 (those inside the arrays count), width or height below 1 -6, a step below 1 -14,
+ * any nLevels below 2 -106. */
+
+/* LUT - every sample of interval k becomes pValues[k], saturated to the sample type. */
+KvrStatus kvriLUT_8u_C1R(const Kvr8u* pSrc, int srcStep, Kvr8u* pDst, int dstStep, KvriSize roiSize, const Kvr32s* pValues, const Kvr32s* pLevels, int nLevels);
+KvrStatus kvriLUT_8u_C1IR(Kvr8u* pSrcDst, int srcDstStep, KvriSize roiSize, const Kvr32s* pValues, const Kvr32s* pLevels, int nLevels);
+KvrStatus kvriLUT_8u_C3R(const Kvr8u* pSrc, int srcStep, Kvr8u* pDst, int dstStep, KvriSize roiSize, const Kvr32s* const pValues[3], const Kvr32s* const pLevels[3], const int nLevels[3]);
+KvrStatus kvriLUT_8u_C3IR(Kvr8u* pSrcDst, int srcDstStep, KvriSize roiSize, const Kvr32s* const pValues[3], const Kvr32s* const pLevels[3], const int nLevels[3]);
+KvrStatus kvriLUT_8u_C4R(const Kvr8u* pSrc, int srcStep, Kvr8u* pDst, int dstStep, KvriSize roiSize, const Kvr32s* const pValues[4], const Kvr32s* const pLevels[4], const int nLevels[4]);
+KvrStatus kvriLUT_8u_C4IR(Kvr8u* pSrcDst, int srcDstStep, KvriSize roiSize, const Kvr32s* const pValues[4], const Kvr32s* const pLevels[4], const int nLevels[4]);
+KvrStatus kvriLUT_8u_AC4R(const Kvr8u* pSrc, int srcStep, Kvr8u* pDst, int dstStep, KvriSize roiSize, const Kvr32s* const pValues[3], const Kvr32s* const pLevels[3], const int nLevels[3]);
+KvrStatus kvriLUT_8u_AC4IR(Kvr8u* pSrcDst, int srcDstStep, KvriSize roiSize, const Kvr32s* const pValues[3], const Kvr32s* const pLevels[3], const int nLevels[3]);
+KvrStatus kvriLUT_16s_C1R(const Kvr16s* pSrc, int srcStep, Kvr16s* pDst, int dstStep, KvriSize roiSize, const Kvr32s* pValues, const Kvr32s* pLevels, int nLevels);
+KvrStatus kvriLUT_16s_C1IR(Kvr16s* pSrcDst, int srcDstStep, KvriSize roiSize, const Kvr32s* pValues, const Kvr32s* pLevels, int nLevels);
+KvrStatus kvriLUT_16s_C3R(const Kvr16s* pSrc, int srcStep, Kvr16s* pDst, int dstStep, KvriSize roiSize, const Kvr32s* const pValues[3], const Kvr32s* const pLevels[3], const int nLevels[3]);
+KvrStatus kvriLUT_16s_C3IR(Kvr16s* pSrcDst, int srcDstStep, KvriSize roiSize, const Kvr32s* const pValues[3], const Kvr32s* const pLevels[3], const int nLevels[3]);
+KvrStatus kvriLUT_16s_C4R(const Kvr16s* pSrc, int srcStep, Kvr16s* pDst, int dstStep, KvriSize roiSize, const Kvr32s* const pValues[4], const Kvr32s* const pLevels[4], const int nLevels[4]);
+KvrStatus kvriLUT_16s_C4IR(Kvr16s* pSrcDst, int srcDstStep, KvriSize roiSize, const Kvr32s* const pValues[4], const Kvr32s* const pLevels[4], const int nLevels[4]);
+KvrStatus kvriLUT_16s_AC4R(const Kvr16s* pSrc, int srcStep, Kvr16s* pDst, int dstStep, KvriSize roiSize, const Kvr32s* const pValues[3], const Kvr32s* const pLevels[3], const int nLevels[3]);
+KvrStatus kvriLUT_16s_AC4IR(Kvr16s* pSrcDst, int srcDstStep, KvriSize roiSize, const Kvr32s* const pValues[3], const Kvr32s* const pLevels[3], const int nLevels[3]);
+KvrStatus kvriLUT_16u_C1R(const Kvr16u* pSrc, int srcStep, Kvr16u* pDst, int dstStep, KvriSize roiSize, const Kvr32s* pValues, const Kvr32s* pLevels, int nLevels);
+KvrStatus kvriLUT_16u_C1IR(Kvr16u* pSrcDst, int srcDstStep, KvriSize roiSize, const Kvr32s* pValues, const Kvr32s* pLevels, int nLevels);
+KvrStatus kvriLUT_16u_C3R(const Kvr16u* pSrc, int srcStep, Kvr16u* pDst, int dstStep, KvriSize roiSize, const Kvr32s* const pValues[3], const Kvr32s* const pLevels[3], const int nLevels[3]);
+KvrStatus kvriLUT_16u_C3IR(Kvr16u* pSrcDst, int srcDstStep, KvriSize roiSize, const Kvr32s* const pValues[3], const Kvr32s* const pLevels[3], const int nLevels[3]);
+KvrStatus kvriLUT_16u_C4R(const Kvr16u* pSrc, int srcStep, Kvr16u* pDst, int dstStep, KvriSize roiSize, const Kvr32s* const pValues[4], const Kvr32s* const pLevels[4], const int nLevels[4]);
+KvrStatus kvriLUT_16u_C4IR(Kvr16u* pSrcDst, int srcDstStep, KvriSize roiSize, const Kvr32s* const pValues[4], const Kvr32s* const pLevels[4], const int nLevels[4]);
+KvrStatus kvriLUT_16u_AC4R(const Kvr16u* pSrc, int srcStep, Kvr16u* pDst, int dstStep, KvriSize roiSize, const Kvr32s* const pValues[3], const Kvr32s* const pLevels[3], const int nLevels[3]);
+KvrStatus kvriLUT_16u_AC4IR(Kvr16u* pSrcDst, int srcDstStep, KvriSize roiSize, const Kvr32s* const pValues[3], const Kvr32s* const pLevels[3], const int nLevels[3]);
+KvrStatus kvriLUT_32f_C1R(const Kvr32f* pSrc, int srcStep, Kvr32f* pDst, int dstStep, KvriSize roiSize, const Kvr32f* pValues, const Kvr32f* pLevels, int nLevels);
+KvrStatus kvriLUT_32f_C1IR(Kvr32f* pSrcDst, int srcDstStep, KvriSize roiSize, const Kvr32f* pValues, const Kvr32f* pLevels, int nLevels);
+KvrStatus kvriLUT_32f_C3R(const Kvr32f* pSrc, int srcStep, Kvr32f* pDst, int dstStep, KvriSize roiSize, const Kvr32f* const pValues[3], const Kvr32f* const pLevels[3], const int nLevels[3]);
+KvrStatus kvriLUT_32f_C3IR(Kvr32f* pSrcDst, int srcDstStep, KvriSize roiSize, const Kvr32f* const pValues[3], const Kvr32f* const pLevels[3], const int nLevels[3]);
+KvrStatus kvriLUT_32f_C4R(const Kvr32f* pSrc, int srcStep, Kvr32f* pDst, int dstStep, KvriSize roiSize, const Kvr32f* const pValues[4], const Kvr32f* const pLevels[4], const int nLevels[4]);
+KvrStatus kvriLUT_32f_C4IR(Kvr32f* pSrcDst, int srcDstStep, KvriSize roiSize, const Kvr32f* const pValues[4], const Kvr32f* const pLevels[4], const int nLevels[4]);
+KvrStatus kvriLUT_32f_AC4R(const Kvr32f* pSrc, int srcStep, Kvr32f* pDst, int dstStep, KvriSize roiSize, const Kvr32f* const pValues[3], const Kvr32f* const pLevels[3], const int nLevels[3]);
+KvrStatus kvriLUT_32f_AC4IR(Kvr32f* pSrcDst, int srcDstStep, KvriSize roiSize, const Kvr32f* const pValues[3], const Kvr32f* const pLevels[3], const int nLevels[3]);
+
+/* LUT_Linear - straight lines: pValues[k] at pLevels[k], pValues[k + 1] at pLevels[k + 1].
+ * Integers: i * slope + offset, cut off toward zero and saturated; slope = (pValues[k + 1] - pValues[k]) / (pLevels[k + 1] -
+ * pLevels[k]) and offset = pValues[k] + 0.5 - pLevels[k] * slope in double precision. An interval of a single sample of the
+ * type gives it pValues[k].
+ * 32f: pValues[k] + (x - pLevels[k]) * slope, every operation in single precision. */
+KvrStatus kvriLUT_Linear_8u_C1R(const Kvr8u* pSrc, int srcStep, Kvr8u* pDst, int dstStep, KvriSize roiSize, const Kvr32s* pValues, const Kvr32s* pLevels, int nLevels);
+KvrStatus kvriLUT_Linear_8u_C1IR(Kvr8u* pSrcDst, int srcDstStep, KvriSize roiSize, const Kvr32s* pValues, const Kvr32s* pLevels, int nLevels);
+KvrStatus kvriLUT_Linear_8u_C3R(const Kvr8u* pSrc, int srcStep, Kvr8u* pDst, int dstStep, KvriSize roiSize, const Kvr32s* const pValues[3], const Kvr32s* const pLevels[3], const int nLevels[3]);
+KvrStatus kvriLUT_Linear_8u_C3IR(Kvr8u* pSrcDst, int srcDstStep, KvriSize roiSize, const Kvr32s* const pValues[3], const Kvr32s* const pLevels[3], const int nLevels[3]);
+KvrStatus kvriLUT_Linear_8u_C4R(const Kvr8u* pSrc, int srcStep, Kvr8u* pDst, int dstStep, KvriSize roiSize, const Kvr32s* const pValues[4], const Kvr32s* const pLevels[4], const int nLevels[4]);
+KvrStatus kvriLUT_Linear_8u_C4IR(Kvr8u* pSrcDst, int srcDstStep, KvriSize roiSize, const Kvr32s* const pValues[4], const Kvr32s* const pLevels[4], const int nLevels[4]);
+KvrStatus kvriLUT_Linear_8u_AC4R(const Kvr8u* pSrc, int srcStep, Kvr8u* pDst, int dstStep, KvriSize roiSize, const Kvr32s* const pValues[3], const Kvr32s* const pLevels[3], const int nLevels[3]);
+KvrStatus kvriLUT_Linear_8u_AC4IR(Kvr8u* pSrcDst, int srcDstStep, KvriSize roiSize, const Kvr32s* const pValues[3], const Kvr32s* const pLevels[3], const int nLevels[3]);
+KvrStatus kvriLUT_Linear_16s_C1R(const Kvr16s* pSrc, int srcStep, Kvr16s* pDst, int dstStep, KvriSize roiSize, const Kvr32s* pValues, const Kvr32s* pLevels, int nLevels);
+KvrStatus kvriLUT_Linear_16s_C1IR(Kvr16s* pSrcDst, int srcDstStep, KvriSize roiSize, const Kvr32s* pValues, const Kvr32s* pLevels, int nLevels);
+KvrStatus kvriLUT_Linear_16s_C3R(const Kvr16s* pSrc, int srcStep, Kvr16s* pDst, int dstStep, KvriSize roiSize, const Kvr32s* const pValues[3], const Kvr32s* const pLevels[3], const int nLevels[3]);
+KvrStatus kvriLUT_Linear_16s_C3IR(Kvr16s* pSrcDst, int srcDstStep, KvriSize roiSize, const Kvr32s* const pValues[3], const Kvr32s* const pLevels[3], const int nLevels[3]);
+KvrStatus kvriLUT_Linear_16s_C4R(const Kvr16s* pSrc, int srcStep, Kvr16s* pDst, int dstStep, KvriSize roiSize, const Kvr32s* const pValues[4], const Kvr32s* const pLevels[4], const int nLevels[4]);
+KvrStatus kvriLUT_Linear_16s_C4IR(Kvr16s* pSrcDst, int srcDstStep, KvriSize roiSize, const Kvr32s* const pValues[4], const Kvr32s* const pLevels[4], const int nLevels[4]);
+KvrStatus kvriLUT_Linear_16s_AC4R(const Kvr16s* pSrc, int srcStep, Kvr16s* pDst, int dstStep, KvriSize roiSize, const Kvr32s* const pValues[3], const Kvr32s* const pLevels[3], const int nLevels[3]);
+KvrStatus kvriLUT_Linear_16s_AC4IR(Kvr16s* pSrcDst, int srcDstStep, KvriSize roiSize, const Kvr32s* const pValues[3], const Kvr32s* const pLevels[3], const int nLevels[3]);
+KvrStatus kvriLUT_Linear_16u_C1R(const Kvr16u* pSrc, int srcStep, Kvr16u* pDst, int dstStep, KvriSize roiSize, const Kvr32s* pValues, const Kvr32s* pLevels, int nLevels);
+KvrStatus kvriLUT_Linear_16u_C1IR(Kvr16u* pSrcDst, int srcDstStep, KvriSize roiSize, const Kvr32s* pValues, const Kvr32s* pLevels, int nLevels);
+KvrStatus kvriLUT_Linear_16u_C3R(const Kvr16u* pSrc, int srcStep, Kvr16u* pDst, int dstStep, KvriSize roiSize, const Kvr32s* const pValues[3], const Kvr32s* const pLevels[3], const int nLevels[3]);
+KvrStatus kvriLUT_Linear_16u_C3IR(Kvr16u* pSrcDst, int srcDstStep, KvriSize roiSize, const Kvr32s* const pValues[3], const Kvr32s* const pLevels[3], const int nLevels[3]);
+KvrStatus kvriLUT_Linear_16u_C4R(const Kvr16u* pSrc, int srcStep, Kvr16u* pDst, int dstStep, KvriSize roiSize, const Kvr32s* const pValues[4], const Kvr32s* const pLevels[4], const int nLevels[4]);
+KvrStatus kvriLUT_Linear_16u_C4IR(Kvr16u* pSrcDst, int srcDstStep, KvriSize roiSize, const Kvr32s* const pValues[4], const Kvr32s* const pLevels[4], const int nLevels[4]);
+KvrStatus kvriLUT_Linear_16u_AC4R(const Kvr16u* pSrc, int srcStep, Kvr16u* pDst, int dstStep, KvriSize roiSize, const Kvr32s* const pValues[3], const Kvr32s* const pLevels[3], const int nLevels[3]);
+KvrStatus kvriLUT_Linear_16u_AC4IR(Kvr16u* pSrcDst, int srcDstStep, KvriSize roiSize, const Kvr32s* const pValues[3], const Kvr32s* const pLevels[3], const int nLevels[3]);
+KvrStatus kvriLUT_Linear_32f_C1R(const Kvr32f* pSrc, int srcStep, Kvr32f* pDst, int dstStep, KvriSize roiSize, const Kvr32f* pValues, const Kvr32f* pLevels, int nLevels);
+KvrStatus kvriLUT_Linear_32f_C1IR(Kvr32f* pSrcDst, int srcDstStep, KvriSize roiSize, const Kvr32f* pValues, const Kvr32f* pLevels, int nLevels);
+KvrStatus kvriLUT_Linear_32f_C3R(const Kvr32f* pSrc, int srcStep, Kvr32f* pDst, int dstStep, KvriSize roiSize, const Kvr32f* const pValues[3], const Kvr32f* const pLevels[3], const int nLevels[3]);
+KvrStatus kvriLUT_Linear_32f_C3IR(Kvr32f* pSrcDst, int srcDstStep, KvriSize roiSize, const Kvr32f* const pValues[3], const Kvr32f* const pLevels[3], const int nLevels[3]);
+KvrStatus kvriLUT_Linear_32f_C4R(const Kvr32f* pSrc, int srcStep, Kvr32f* pDst, int dstStep, KvriSize roiSize, const Kvr32f* const pValues[4], const Kvr32f* const pLevels[4], const int nLevels[4]);
+KvrStatus kvriLUT_Linear_32f_C4IR(Kvr32f* pSrcDst, int srcDstStep, KvriSize roiSize, const Kvr32f* const pValues[4], const Kvr32f* const pLevels[4], const int nLevels[4]);
+KvrStatus kvriLUT_Linear_32f_AC4R(const Kvr32f* pSrc, int srcStep, Kvr32f* pDst, int dstStep, KvriSize roiSize, const Kvr32f* const pValues[3], const Kvr32f* const pLevels[3], const int nLevels[3]);
+KvrStatus kvriLUT_Linear_32f_AC4IR(Kvr32f* pSrcDst, int srcDstStep, KvriSize roiSize, const Kvr32f* const pValues[3], const Kvr32f* const pLevels[3], const int nLevels[3]);
+
+/* LUT_Cubic - in interval k the polynomial through the points (level, value) k - 1 to k + 2, in the first and last intervals
+ * the first and last four; of three or two levels the polynomial of second or first degree through all of them. Where two
+ * of its points share a level, interval k is a straight line. Coefficients by Cramer's rule, evaluated in double precision;
+ * integers are rounded to the nearest, halves up, and saturated. */
+KvrStatus kvriLUT_Cubic_8u_C1R(const Kvr8u* pSrc, int srcStep, Kvr8u* pDst, int dstStep, KvriSize roiSize, const Kvr32s* pValues, const Kvr32s* pLevels, int nLevels);
+KvrStatus kvriLUT_Cubic_8u_C1IR(Kvr8u* pSrcDst, int srcDstStep, KvriSize roiSize, const Kvr32s* pValues, const Kvr32s* pLevels, int nLevels);
+KvrStatus kvriLUT_Cubic_8u_C3R(const Kvr8u* pSrc, int srcStep, Kvr8u* pDst, int dstStep, KvriSize roiSize, const Kvr32s* const pValues[3], const Kvr32s* const pLevels[3], const int nLevels[3]);
+KvrStatus kvriLUT_Cubic_8u_C3IR(Kvr8u* pSrcDst, int srcDstStep, KvriSize roiSize, const Kvr32s* const pValues[3], const Kvr32s* const pLevels[3], const int nLevels[3]);
+KvrStatus kvriLUT_Cubic_8u_C4R(const Kvr8u* pSrc, int srcStep, Kvr8u* pDst, int dstStep, KvriSize roiSize, const Kvr32s* const pValues[4], const Kvr32s* const pLevels[4], const int nLevels[4]);
+KvrStatus kvriLUT_Cubic_8u_C4IR(Kvr8u* pSrcDst, int srcDstStep, KvriSize roiSize, const Kvr32s* const pValues[4], const Kvr32s* const pLevels[4], const int nLevels[4]);
+KvrStatus kvriLUT_Cubic_8u_AC4R(const Kvr8u* pSrc, int srcStep, Kvr8u* pDst, int dstStep, KvriSize roiSize, const Kvr32s* const pValues[3], const Kvr32s* const pLevels[3], const int nLevels[3]);
+KvrStatus kvriLUT_Cubic_8u_AC4IR(Kvr8u* pSrcDst, int srcDstStep, KvriSize roiSize, const Kvr32s* const pValues[3], const Kvr32s* const pLevels[3], const int nLevels[3]);
+KvrStatus kvriLUT_Cubic_16s_C1R(const Kvr16s* pSrc, int srcStep, Kvr16s* pDst, int dstStep, KvriSize roiSize, const Kvr32s* pValues, const Kvr32s* pLevels, int nLevels);
+KvrStatus kvriLUT_Cubic_16s_C1IR(Kvr16s* pSrcDst, int srcDstStep, KvriSize roiSize, const Kvr32s* pValues, const Kvr32s* pLevels, int nLevels);
+KvrStatus kvriLUT_Cubic_16s_C3R(const Kvr16s* pSrc, int srcStep, Kvr16s* pDst, int dstStep, KvriSize roiSize, const Kvr32s* const pValues[3], const Kvr32s* const pLevels[3], const int nLevels[3]);
+KvrStatus kvriLUT_Cubic_16s_C3IR(Kvr16s* pSrcDst, int srcDstStep, KvriSize roiSize, const Kvr32s* const pValues[3], const Kvr32s* const pLevels[3], const int nLevels[3]);
+KvrStatus kvriLUT_Cubic_16s_C4R(const Kvr16s* pSrc, int srcStep, Kvr16s* pDst, int dstStep, KvriSize roiSize, const Kvr32s* const pValues[4], const Kvr32s* const pLevels[4], const int nLevels[4]);
+KvrStatus kvriLUT_Cubic_16s_C4IR(Kvr16s* pSrcDst, int srcDstStep, KvriSize roiSize, const Kvr32s* const pValues[4], const Kvr32s* const pLevels[4], const int nLevels[4]);
+KvrStatus kvriLUT_Cubic_16s_AC4R(const Kvr16s* pSrc, int srcStep, Kvr16s* pDst, int dstStep, KvriSize roiSize, const Kvr32s* const pValues[3], const Kvr32s* const pLevels[3], const int nLevels[3]);
+KvrStatus kvriLUT_Cubic_16s_AC4IR(Kvr16s* pSrcDst, int srcDstStep, KvriSize roiSize, const Kvr32s* const pValues[3], const Kvr32s* const pLevels[3], const int nLevels[3]);
+KvrStatus kvriLUT_Cubic_16u_C1R(const Kvr16u* pSrc, int srcStep, Kvr16u* pDst, int dstStep, KvriSize roiSize, const Kvr32s* pValues, const Kvr32s* pLevels, int nLevels);
+KvrStatus kvriLUT_Cubic_16u_C1IR(Kvr16u* pSrcDst, int srcDstStep, KvriSize roiSize, const Kvr32s* pValues, const Kvr32s* pLevels, int nLevels);
+KvrStatus kvriLUT_Cubic_16u_C3R(const Kvr16u* pSrc, int srcStep, Kvr16u* pDst, int dstStep, KvriSize roiSize, const Kvr32s* const pValues[3], const Kvr32s* const pLevels[3], const int nLevels[3]);
+KvrStatus kvriLUT_Cubic_16u_C3IR(Kvr16u* pSrcDst, int srcDstStep, KvriSize roiSize, const Kvr32s* const pValues[3], const Kvr32s* const pLevels[3], const int nLevels[3]);
+KvrStatus kvriLUT_Cubic_16u_C4R(const Kvr16u* pSrc, int srcStep, Kvr16u* pDst, int dstStep, KvriSize roiSize, const Kvr32s* const pValues[4], const Kvr32s* const pLevels[4], const int nLevels[4]);
+KvrStatus kvriLUT_Cubic_16u_C4IR(Kvr16u* pSrcDst, int srcDstStep, KvriSize roiSize, const Kvr32s* const pValues[4], const Kvr32s* const pLevels[4], const int nLevels[4]);
+KvrStatus kvriLUT_Cubic_16u_AC4R(const Kvr16u* pSrc, int srcStep, Kvr16u* pDst, int dstStep, KvriSize roiSize, const Kvr32s* const pValues[3], const Kvr32s* const pLevels[3], const int nLevels[3]);
+KvrStatus kvriLUT_Cubic_16u_AC4IR(Kvr16u* pSrcDst, int srcDstStep, KvriSize roiSize, const Kvr32s* const pValues[3], const Kvr32s* const pLevels[3], const int nLevels[3]);
+KvrStatus kvriLUT_Cubic_32f_C1R(const Kvr32f* pSrc, int srcStep, Kvr32f* pDst, int dstStep, KvriSize roiSize, const Kvr32f* pValues, const Kvr32f* pLevels, int nLevels);
+KvrStatus kvriLUT_Cubic_32f_C1IR(Kvr32f* pSrcDst, int srcDstStep, KvriSize roiSize, const Kvr32f* pValues, const Kvr32f* pLevels, int nLevels);
+KvrStatus kvriLUT_Cubic_32f_C3R(const Kvr32f* pSrc, int srcStep, Kvr32f* pDst, int dstStep, KvriSize roiSize, const Kvr32f* const pValues[3], const Kvr32f* const pLevels[3], const int nLevels[3]);
+KvrStatus kvriLUT_Cubic_32f_C3IR(Kvr32f* pSrcDst, int srcDstStep, KvriSize roiSize, const Kvr32f* const pValues[3], const Kvr32f* const pLevels[3], const int nLevels[3]);
+KvrStatus kvriLUT_Cubic_32f_C4R(const Kvr32f* pSrc, int srcStep, Kvr32f* pDst, int dstStep, KvriSize roiSize, const Kvr32f* const pValues[4], const Kvr32f* const pLevels[4], const int nLevels[4]);
+KvrStatus kvriLUT_Cubic_32f_C4IR(Kvr32f* pSrcDst, int srcDstStep, KvriSize roiSize, const Kvr32f* const pValues[4], const Kvr32f* const pLevels[4], const int nLevels[4]);
+KvrStatus kvriLUT_Cubic_32f_AC4R(const Kvr32f* pSrc, int srcStep, Kvr32f* pDst, int dstStep, KvriSize roiSize, const Kvr32f* const pValues[3], const Kvr32f* const pLevels[3], const int nLevels[3]);
+KvrStatus kvriLUT_Cubic_32f_AC4IR(Kvr32f* pSrcDst, int srcDstStep, KvriSize roiSize, const Kvr32f* const pValues[3], const Kvr32f* const pLevels[3], const int nLevels[3]);
+
+/* LUTPalette, LUTPaletteSwap - dst = pTable[src & (2^nBitSize - 1)]; a table has 2^nBitSize entries of the destination's type, 24u
+ * entries three bytes. Of the multi-channel forms pTable is an array with a table per processed channel. AC4 leaves the
+ * destination's fourth channel as it is; C3A0C4 makes four channels of three, the fourth 0; Swap puts channel c at 2 - c.
+ *
+ * Pixel by pixel, no neighbourhood. Errors, in this order: null pointer -8 (those inside the array count), width or height
+ * below 1 -6, nBitSize outside 1 .. 8 (8u sources) or 1 .. 16 (16u) -11, a step below the ROI's width in pixels -14. */
+KvrStatus kvriLUTPalette_8u_C1R(const Kvr8u* pSrc, int srcStep, Kvr8u* pDst, int dstStep, KvriSize roiSize, const Kvr8u* pTable, int nBitSize);
+KvrStatus kvriLUTPalette_8u_C3R(const Kvr8u* pSrc, int srcStep, Kvr8u* pDst, int dstStep, KvriSize roiSize, const Kvr8u* const pTable[3], int nBitSize);
+KvrStatus kvriLUTPalette_8u_C4R(const Kvr8u* pSrc, int srcStep, Kvr8u* pDst, int dstStep, KvriSize roiSize, const Kvr8u* const pTable[4], int nBitSize);
+KvrStatus kvriLUTPalette_8u_AC4R(const Kvr8u* pSrc, int srcStep, Kvr8u* pDst, int dstStep, KvriSize roiSize, const Kvr8u* const pTable[3], int nBitSize);
+KvrStatus kvriLUTPalette_8u_C3A0C4R(const Kvr8u* pSrc, int srcStep, Kvr8u* pDst, int dstStep, KvriSize roiSize, const Kvr8u* const pTable[3], int nBitSize);
+KvrStatus kvriLUTPaletteSwap_8u_C3A0C4R(const Kvr8u* pSrc, int srcStep, Kvr8u* pDst, int dstStep, KvriSize roiSize, const Kvr8u* const pTable[3], int nBitSize);
+KvrStatus kvriLUTPalette_16u_C1R(const Kvr16u* pSrc, int srcStep, Kvr16u* pDst, int dstStep, KvriSize roiSize, const Kvr16u* pTable, int nBitSize);
+KvrStatus kvriLUTPalette_16u_C3R(const Kvr16u* pSrc, int srcStep, Kvr16u* pDst, int dstStep, KvriSize roiSize, const Kvr16u* const pTable[3], int nBitSize);
+KvrStatus kvriLUTPalette_16u_C4R(const Kvr16u* pSrc, int srcStep, Kvr16u* pDst, int dstStep, KvriSize roiSize, const Kvr16u* const pTable[4], int nBitSize);
+KvrStatus kvriLUTPalette_16u_AC4R(const Kvr16u* pSrc, int srcStep, Kvr16u* pDst, int dstStep, KvriSize roiSize, const Kvr16u* const pTable[3], int nBitSize);
+KvrStatus kvriLUTPalette_16u_C3A0C4R(const Kvr16u* pSrc, int srcStep, Kvr16u* pDst, int dstStep, KvriSize roiSize, const Kvr16u* const pTable[3], int nBitSize);
+KvrStatus kvriLUTPaletteSwap_16u_C3A0C4R(const Kvr16u* pSrc, int srcStep, Kvr16u* pDst, int dstStep, KvriSize roiSize, const Kvr16u* const pTable[3], int nBitSize);
+KvrStatus kvriLUTPalette_8u24u_C1R(const Kvr8u* pSrc, int srcStep, Kvr8u* pDst, int dstStep, KvriSize roiSize, const Kvr8u* pTable, int nBitSize);
+KvrStatus kvriLUTPalette_8u32u_C1R(const Kvr8u* pSrc, int srcStep, Kvr32u* pDst, int dstStep, KvriSize roiSize, const Kvr32u* pTable, int nBitSize);
+KvrStatus kvriLUTPalette_16u8u_C1R(const Kvr16u* pSrc, int srcStep, Kvr8u* pDst, int dstStep, KvriSize roiSize, const Kvr8u* pTable, int nBitSize);
+KvrStatus kvriLUTPalette_16u24u_C1R(const Kvr16u* pSrc, int srcStep, Kvr8u* pDst, int dstStep, KvriSize roiSize, const Kvr8u* pTable, int nBitSize);
+KvrStatus kvriLUTPalette_16u32u_C1R(const Kvr16u* pSrc, int srcStep, Kvr32u* pDst, int dstStep, KvriSize roiSize, const Kvr32u* pTable, int nBitSize);
+
+/* ThresholdAdaptiveBox, ThresholdAdaptiveGauss - dst = valGT where src > mean - delta, else valLE; the mean is that of the square
+ * of maskSize pixels around the pixel (side m, odd), or the mean under the weights of a Gaussian.
+ * Box: exactly src * m^2 > sum - delta * m^2 in double precision. Gauss: the weights of both axes are exp(-(i - m / 2)^2 / (2
+ * sigma^2)), i = 0 .. m - 1, divided by their sum; sigma <= 0 stands for 0.3 * ((m - 1) * 0.5 - 1) + 0.8. Of a mask of side 1 the
+ * pixel itself is the mean. A delta above 255 gives valGT everywhere, one of at most -255 valLE.
+ *
+ * Neighbours outside the ROI: the low four bits of borderType are kvrBorderConst (borderValue), kvrBorderRepl or
+ * kvrBorderInMem; the flags kvrBorderInMemTop ... Right name sides whose m / 2 rows or columns are read from memory under the
+ * other two as well. Beyond a corner each axis follows its own side; the constant wins where either axis is under it.
+ * IR works in place. pBuffer (and pSpec, which Init fills) are the caller's, of the bytes that GetBufferSize tells for the
+ * same sizes, at any address; one pSpec serves any number of calls at a time.
+ *
+ * Errors, in this order. Apply: null pointer -8 (pSpec and pBuffer count), width or height below 1 -6, a mask that is not
+ * square or of a side that is not odd and positive -33, another border rule -225; Gauss then: pSpec not of Init -17. Steps are
+ * not checked. GetBufferSize, Init: -8, -6, -33 alike, then a dataType other than kvrDataType8u -12, numChannels other than 1 -53;
+ * GetBufferSize then: sizes of 2^31 bytes and more -232. */
+typedef struct KvriThresholdAdaptiveSpec KvriThresholdAdaptiveSpec;
+KvrStatus kvriThresholdAdaptiveBoxGetBufferSize(KvriSize roiSize, KvriSize maskSize, KvrDataType dataType, int numChannels, int* pBufferSize);
+KvrStatus kvriThresholdAdaptiveBox_8u_C1R(const Kvr8u* pSrc, int srcStep, Kvr8u* pDst, int dstStep, KvriSize roiSize, KvriSize maskSize, Kvr32f delta, Kvr8u valGT, Kvr8u valLE, KvriBorderType borderType, Kvr8u borderValue, Kvr8u* pBuffer);
+KvrStatus kvriThresholdAdaptiveBox_8u_C1IR(Kvr8u* pSrcDst, int srcDstStep, KvriSize roiSize, KvriSize maskSize, Kvr32f delta, Kvr8u valGT, Kvr8u valLE, KvriBorderType borderType, Kvr8u borderValue, Kvr8u* pBuffer);
+KvrStatus kvriThresholdAdaptiveGaussGetBufferSize(KvriSize roiSize, KvriSize maskSize, KvrDataType dataType, int numChannels, int* pSpecSize, int* pBufferSize);
+KvrStatus kvriThresholdAdaptiveGaussInit(KvriSize roiSize, KvriSize maskSize, KvrDataType dataType, int numChannels, Kvr32f sigma, KvriThresholdAdaptiveSpec* pSpec);
+KvrStatus kvriThresholdAdaptiveGauss_8u_C1R(const Kvr8u* pSrc, int srcStep, Kvr8u* pDst, int dstStep, KvriSize roiSize, KvriSize maskSize, Kvr32f delta, Kvr8u valGT, Kvr8u valLE, KvriBorderType borderType, Kvr8u borderValue, const KvriThresholdAdaptiveSpec* pSpec, Kvr8u* pBuffer);
+KvrStatus kvriThresholdAdaptiveGauss_8u_C1IR(Kvr8u* pSrcDst, int srcDstStep, KvriSize roiSize, KvriSize maskSize, Kvr32f delta, Kvr8u valGT, Kvr8u valLE, KvriBorderType borderType, Kvr8u borderValue, const KvriThresholdAdaptiveSpec* pSpec, Kvr8u* pBuffer);
+
 #pragma GCC visibility pop
 #ifdef __cplusplus
 }
