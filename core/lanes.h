@@ -52,6 +52,19 @@ inline V multiplyLow(V a, V b) {
     return (V)((U)a * (U)b);
 }
 
+// |v| of 16s; of the minimum, the maximum.
+template <class V>
+inline V absSat(V v) {
+    v = v > -32767 ? v : splat<V>(-32767);
+    KVRI_BY_WIDTH(V, abs_epi16, raw(v));
+}
+
+// Of 32f, correctly rounded.
+template <class V>
+inline V squareRoot(V v) {
+    KVRI_BY_WIDTH(V, sqrt_ps, raw(v));
+}
+
 // High halves of the 32-bit products of 16u, 16s.
 template <class V>
 inline V multiplyHigh(V a, V b) {
@@ -229,17 +242,17 @@ inline Vec<int32_t, 16> toNearestHalf(Vec<double, 32> v) { return (Vec<int32_t, 
 inline Vec<int32_t, 32> toNearestHalf(Vec<double, 64> v) { return (Vec<int32_t, 32>)_mm512_cvtpd_epi32((__m512d)v); }
 #endif
 
-// The number of the range low to high that is nearest to v; v is no NaN.
+// The number of the range low to high that is nearest to v; a NaN stays one.
 template <class V>
 inline V clamp(V v, V low, V high) {
     if constexpr (kHolds<V, float>) {
         const auto least = [](V a, V b) { KVRI_BY_WIDTH(V, min_ps, raw(a), raw(b)); };
         const auto most = [](V a, V b) { KVRI_BY_WIDTH(V, max_ps, raw(a), raw(b)); };
-        return most(least(v, high), low);
+        return most(low, least(high, v));
     } else {
         const auto least = [](V a, V b) { KVRI_BY_WIDTH(V, min_pd, raw(a), raw(b)); };
         const auto most = [](V a, V b) { KVRI_BY_WIDTH(V, max_pd, raw(a), raw(b)); };
-        return most(least(v, high), low);
+        return most(low, least(high, v));
     }
 }
 
@@ -254,6 +267,16 @@ inline bool anyZero(V v) {
     else return _mm512_testn_epi64_mask((__m512i)v, (__m512i)v) != 0;
 #else
     return !allZero((Bytes<>)(v == 0));
+#endif
+}
+
+// Whether any element of a is greater than b's; of 32s.
+template <class V>
+inline bool anyGreater(V a, V b) {
+#if defined(__AVX512BW__)
+    return _mm512_cmpgt_epi32_mask((__m512i)a, (__m512i)b) != 0;
+#else
+    return !allZero((Bytes<>)(a > b));
 #endif
 }
 
