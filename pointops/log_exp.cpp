@@ -16,7 +16,10 @@ struct FloatLogarithm {
 struct FloatExponential {
     using Sample = float;
     static constexpr int unrolled = 1;
-    Vec<float> operator()(Vec<float> v) const { return exponential(v); }
+    Vec<float> operator()(Vec<float> v) const {
+        if (!anyBeyondSmall(v)) [[likely]] return smallExponential(v);
+        return exponential(v);
+    }
 };
 
 // Logarithms of integers above 0, times 2^-scaleFactor, to the nearest integer: only of 1 is a logarithm rational. In single
@@ -84,7 +87,7 @@ struct Ln {
         using Single = IntegerLogarithm<T, SingleLogarithms>;
         const DefaultFloatControl control;
         const auto map = [&](const auto& op) { return mapLogarithms(task, op); };
-        if constexpr (sizeof(T) == 1) return task.throughTable(Single{SingleLogarithms(scaleFactor)}, map);
+        if constexpr (sizeof(T) == 1) return map(TableLookup{ByteTable(Single{SingleLogarithms(scaleFactor)})});
         else if (scaleFactor >= SingleLogarithms::leastScaleFactor) return map(Single{SingleLogarithms(scaleFactor)});
         else return map(IntegerLogarithm<T, DoubleLogarithms>{DoubleLogarithms(scaleFactor)});
     }
@@ -122,14 +125,14 @@ public:
         // The result is 1/2 at (s - 1) ln 2, an integer only for s = 1; that tie goes to 0.
         const int first = int(std::floor((s - 1) * 0x1.62e42fefa39efp-1)) + 1;
         const int base = std::clamp(first - 1, bias, most);
-        alignas(16) uint8_t low[16], high[16];
-        for (int i = 0; i < 16; ++i) {
-            const int result = base + i < first ? 0 : scaled(base + i, s);
+        Bytes<16> low{}, high{};
+        for (int i = 0, result = 0; i < 16; ++i) {
+            if (result < most && base + i >= first) result = scaled(base + i, s);
             low[i] = uint8_t(result), high[i] = uint8_t(result >> 8);
         }
         base_ = splat<U>(ElementOf<U>(base - bias));
-        low_ = broadcastLane<Bytes<>>(load<Bytes<16>>(low));
-        high_ = broadcastLane<Bytes<>>(load<Bytes<16>>(high));
+        low_ = broadcastLane<Bytes<>>(low);
+        high_ = broadcastLane<Bytes<>>(high);
     }
 
     V operator()(V v) const {

@@ -11,6 +11,7 @@
 
 namespace kvri {
 
+// Any operation on bytes, for the cost of computing 256 of them.
 struct TableLookup {
     using Sample = uint8_t;
     static constexpr int unrolled = 2;
@@ -35,14 +36,6 @@ struct OneImage {
     void operator()(const Op& operation) const {
         const Op op = operation;
         each<Op>([&](auto write, auto, auto v) KVRI_INLINE { write(op(v)); });
-    }
-
-    // map(op), or map(a table of op) where there are enough samples: for operations that take longer than a look-up.
-    template <class Op, class Map>
-    auto throughTable(const Op& op, Map map) const {
-        constexpr ptrdiff_t enough = 1024;
-        if (ptrdiff_t(roi.width) * roi.height * L::channels < enough) return map(op);
-        return map(TableLookup{ByteTable(op)});
     }
 
     void clear() const { kvri::clear<T, L>(d, roi); }

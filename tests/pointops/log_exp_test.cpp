@@ -49,11 +49,11 @@ void expectWithinOneUnit(Map map, double (*right)(double), KvrStatus status, uin
 }
 
 TEST(Logarithm, IsWithinOneUnitOfTheRoundedValue) {
-    expectWithinOneUnit(kvriLn_32f_C1R, [](double x) { return x == 0 ? 0 : std::log(x); }, kvrStatusLnZeroArgWarning, 8687399492028613206u);
+    expectWithinOneUnit(kvriLn_32f_C1R, [](double x) { return x == 0 ? 0 : std::log(x); }, kvrStatusLnZeroArgWarning, 3098750276388642972u);
 }
 
 TEST(Exponential, IsWithinOneUnitOfTheRoundedValue) {
-    expectWithinOneUnit(kvriExp_32f_C1R, [](double x) { return std::exp(x); }, kvrStatusOk, 14886691936025050289u);
+    expectWithinOneUnit(kvriExp_32f_C1R, [](double x) { return std::exp(x); }, kvrStatusOk, 9710263665040966128u);
 }
 
 TEST(Exponential, OfAlmostNothingIsOne) {
