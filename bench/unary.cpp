@@ -13,10 +13,11 @@ Job prepare(const Case& c, const Geometry& g, int scale) {
     const ptrdiff_t rows = g.size.height, step = ptrdiff_t(g.size.width) * c.pixelBytes() + g.padding;
     auto image = [&] {
         uint8_t* p = newImage(job, rows * step);
-        for (ptrdiff_t i = 0; i + 4 <= rows * step && isFloat(c.type); i += 4) {
-            const float f = 1 + float(p[i]) / 64;  // no infinities, however often in place; ln gives other numbers than 0
-            std::memcpy(p + i, &f, 4);
-        }
+        for (ptrdiff_t y = 0; y < rows && isFloat(c.type); ++y)
+            for (uint8_t* sample = p + y * step; sample + 4 <= p + (y + 1) * step; sample += 4) {
+                const float f = 1 + float(*sample) / 64;
+                std::memcpy(sample, &f, 4);
+            }
         return p;
     };
     uint8_t* dst = image();

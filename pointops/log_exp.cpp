@@ -126,9 +126,11 @@ public:
         const int first = int(std::floor((s - 1) * 0x1.62e42fefa39efp-1)) + 1;
         const int base = std::clamp(first - 1, bias, most);
         Bytes<16> low{}, high{};
-        for (int i = 0, result = 0; i < 16; ++i) {
-            if (result < most && base + i >= first) result = scaled(base + i, s);
+        double real = exponential(std::max(first, base), s);
+        for (int i = std::max(first - base, 0); i < 16; ++i) {
+            const int result = std::clamp(int(std::lrint(real)), 1, most);
             low[i] = uint8_t(result), high[i] = uint8_t(result >> 8);
+            real = std::min(real * 0x1.5bf0a8b145769p+1, 0x1p17);
         }
         base_ = splat<U>(ElementOf<U>(base - bias));
         low_ = broadcastLane<Bytes<>>(low);
@@ -142,10 +144,9 @@ public:
     }
 
 private:
-    // Of samples whose result is above 1/2. The first part of ln 2 has 33 bits: multiples of it are exact.
-    static int scaled(int x, int s) {
-        const double logarithm = x - s * 0x1.62e42feep-1 - s * 0x1.a39ef35793c76p-33;
-        return logarithm > 12 ? most : std::clamp(int(std::lrint(std::exp(logarithm))), 1, most);
+    // e^x * 2^-s, or so much that it saturates. The first part of ln 2 has 32 bits: multiples of it are exact.
+    static double exponential(int x, int s) {
+        return std::exp(std::min(x - s * 0x1.62e42feep-1 - s * 0x1.a39ef35793c76p-33, 12.0));
     }
 };
 

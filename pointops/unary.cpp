@@ -11,7 +11,7 @@ namespace {
 template <class T>
 struct Magnitude {
     using Sample = T;
-    static constexpr int unrolled = 4;
+    static constexpr int unrolled = 2;
     using V = Vec<T>;
     V operator()(V v) const {
         if constexpr (kHolds<V, float>) return (V)((Vec<uint32_t>)v & 0x7FFFFFFF);
@@ -31,7 +31,7 @@ struct Abs {
 template <class Product>
 struct Square {
     using Sample = typename Product::Sample;
-    static constexpr int unrolled = 4;
+    static constexpr int unrolled = 2;
     Product product;
     Vec<Sample> operator()(Vec<Sample> v) const { return product(v, v); }
 };
