@@ -52,20 +52,8 @@ template <class T, class Logarithms>
 struct IntegerLogarithm {
     using Sample = T;
     static constexpr int unrolled = 1;
-    using V = Vec<T>;
-    using H = Vec<uint16_t>;
-    using Wide = Vec<int32_t>;
     Logarithms logarithms;
-
-    V operator()(V v) const {
-        v = v > 0 ? v : splat<V>(1);
-        if constexpr (sizeof(T) == 1) return narrow<T>(each<int16_t>(widenLow(v)), each<int16_t>(widenHigh(v)));
-        else return each<T>((H)v);
-    }
-
-private:
-    template <class R>
-    Vec<R> each(H v) const { return narrow<R>(logarithms((Wide)widenLow(v)), logarithms((Wide)widenHigh(v))); }
+    Vec<T> operator()(Vec<T> v) const { return mapWidened<T>(v > 0 ? v : splat<Vec<T>>(1), logarithms); }
 };
 
 // Maps an operation on integers, and gives a warning where any sample is 0.
@@ -117,7 +105,7 @@ private:
     using U = Vec<std::make_unsigned_t<T>>;
     static constexpr int bias = std::numeric_limits<T>::min(), most = std::numeric_limits<T>::max();
     U base_;  // results of samples from here on stand in the table, as unsigned numbers above the type's least
-    Bytes<> low_, high_;
+    Bytes<> low_, high_;  // bytes of the results
 
 public:
     explicit IntegerExponential(int scaleFactor) {
@@ -130,7 +118,7 @@ public:
         for (int i = std::max(first - base, 0); i < 16; ++i) {
             const int result = std::clamp(int(std::lrint(real)), 1, most);
             low[i] = uint8_t(result), high[i] = uint8_t(result >> 8);
-            real = std::min(real * 0x1.5bf0a8b145769p+1, 0x1p17);
+            real = std::min(real * 0x1.5bf0a8b145769p+1, 0x1p17);  // times e
         }
         base_ = splat<U>(ElementOf<U>(base - bias));
         low_ = broadcastLane<Bytes<>>(low);

@@ -15,7 +15,6 @@ namespace kvri {
 // ln 2 in two parts: a multiple of the first by an integer of 11 bits, or by one of 8 and an eighth, is exact.
 constexpr float kLn2High = 0x1.62ep-1f, kLn2Low = 0x1.0bfbe8p-15f;
 
-// Numbers up to here are small for Exp.
 constexpr float kSmallExponent = 64;
 
 // c[0] + c[1] v + c[2] v^2 ... of 2, 4 or 8 coefficients, by pairs: a short way from v to the sum (G. Estrin, 1960).
@@ -48,7 +47,7 @@ U powersOfEighths(U i) {
 #endif
 }
 
-// x = (n + r) ln 2 with n, a multiple of 1/8: what is added leaves no finer bits, and 8 n in the low bits of `eighths`.
+// x = n ln 2 + r with n, a multiple of 1/8: what is added leaves no finer bits, and 8 n in the low bits of `eighths`.
 template <class F>
 struct Reduced {
     using U = Vec<uint32_t, sizeof(F)>;
@@ -63,14 +62,14 @@ struct Reduced {
     }
 };
 
-// power * e^r for |r| <= ln(2) / 16.
+// power * e^r for |r| <= ln(2) / 16. First of all power * r, as both are there before the rest of the sum.
 template <class F>
 F timesExponential(F power, F r) {
     const F first = power * r;
     return power + (first + first * r * polynomial(r, {0x1.00087ep-1f, 0x1.555c24p-3f}));
 }
 
-// Where powers and their products with r stay normal numbers.
+// Up to kSmallExponent the powers of 2 may be part of the products: none gets so small that it loses bits of the result.
 template <class F>
 bool anyBeyondSmall(F x) {
     using I = Vec<int32_t, sizeof(F)>;

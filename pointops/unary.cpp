@@ -89,7 +89,7 @@ class LargeRoots {
 public:
     LargeRoots(int n, int64_t most)
         : scale_(splat<Vec<float>>(scaleOf(-n))), shift_(std::min(2 * n, 32)),
-          largest_(splat<Wide>(int(std::min<int64_t>((most * most + most) >> std::min(2 * n, 62), 65535)))), most_(splat<Wide>(int(most))) {}
+          largest_(splat<Wide>(int((most * most + most) >> std::min(2 * n, 62)))), most_(splat<Wide>(int(most))) {}
 
     Wide operator()(Wide x) const {
         const Wide k = toNearest(squareRoot(__builtin_convertvector(x, Vec<float>)) * scale_ - 0.25f);
@@ -102,20 +102,8 @@ template <class T, class Roots>
 struct IntegerRoot {
     using Sample = T;
     static constexpr int unrolled = 1;
-    using V = Vec<T>;
-    using H = Vec<uint16_t>;
-    using Wide = Vec<int32_t>;
     Roots roots;
-
-    V operator()(V v) const {
-        if constexpr (sizeof(T) == 1) return narrow<T>((Vec<int16_t>)root<int16_t>(widenLow(v)), (Vec<int16_t>)root<int16_t>(widenHigh(v)));
-        else if constexpr (std::is_signed_v<T>) return root<T>((H)(v > 0 ? v : V{}));
-        else return root<T>(v);
-    }
-
-private:
-    template <class R>
-    Vec<R> root(H v) const { return narrow<R>(roots((Wide)widenLow(v)), roots((Wide)widenHigh(v))); }
+    Vec<T> operator()(Vec<T> v) const { return mapWidened<T>(v > 0 ? v : Vec<T>{}, roots); }
 };
 
 struct Sqrt {

@@ -50,6 +50,16 @@ private:
     }
 };
 
+// f of every sample, in 32 bits, and saturated. Samples of 16s are not negative.
+template <class T, class F>
+Vec<T> mapWidened(Vec<T> v, F f) {
+    using H = Vec<uint16_t>;
+    using Wide = Vec<int32_t>;
+    const auto half = [&]<class R>(H h, R) { return narrow<R>(f((Wide)widenLow(h)), f((Wide)widenHigh(h))); };
+    if constexpr (sizeof(T) == 1) return narrow<T>(half(widenLow(v), int16_t()), half(widenHigh(v), int16_t()));
+    else return half((H)v, T());
+}
+
 // 2^-scaleFactor; from 2^20 on every sample but 0 and ln 1 saturates, below 2^-40 nothing is left of any.
 inline float scaleOf(int scaleFactor) { return std::ldexp(1.0f, -std::clamp(scaleFactor, -20, 40)); }
 
