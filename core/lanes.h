@@ -52,6 +52,19 @@ inline V multiplyLow(V a, V b) {
     return (V)((U)a * (U)b);
 }
 
+// |v| of 16s; of the minimum, the maximum.
+template <class V>
+inline V absSat(V v) {
+    v = v > -32767 ? v : splat<V>(-32767);
+    KVRI_BY_WIDTH(V, abs_epi16, raw(v));
+}
+
+// Of 32f, correctly rounded.
+template <class V>
+inline V squareRoot(V v) {
+    KVRI_BY_WIDTH(V, sqrt_ps, raw(v));
+}
+
 // High halves of the 32-bit products of 16u, 16s.
 template <class V>
 inline V multiplyHigh(V a, V b) {
@@ -320,10 +333,10 @@ inline Vec<int32_t, 16> towardZeroHalf(Vec<double, 32> v) { return (Vec<int32_t,
 inline Vec<int32_t, 32> towardZeroHalf(Vec<double, 64> v) { return (Vec<int32_t, 32>)_mm512_cvttpd_epi32((__m512d)v); }
 #endif
 
-// The number of the range low to high that is nearest to v; v is no NaN.
+// The number of the range low to high that is nearest to v; a NaN stays one.
 template <class V>
 inline V clamp(V v, V low, V high) {
-    return larger(smaller(v, high), low);
+    return larger(low, smaller(high, v));
 }
 
 // Of 32f, the smaller one in magnitude, perhaps without its sign.
@@ -355,6 +368,16 @@ inline bool anyEqual(V a, V b) {
 template <class V>
 inline bool anyZero(V v) {
     return anyEqual(v, V{});
+}
+
+// Whether any element of a is greater than b's; of 32s.
+template <class V>
+inline bool anyGreater(V a, V b) {
+#if defined(__AVX512BW__)
+    return _mm512_cmpgt_epi32_mask((__m512i)a, (__m512i)b) != 0;
+#else
+    return !allZero((Bytes<>)(a > b));
+#endif
 }
 
 }  // namespace kvri

@@ -671,6 +671,128 @@ KvrStatus kvriThresholdAdaptiveGaussGetBufferSize(KvriSize roiSize, KvriSize mas
 KvrStatus kvriThresholdAdaptiveGaussInit(KvriSize roiSize, KvriSize maskSize, KvrDataType dataType, int numChannels, Kvr32f sigma, KvriThresholdAdaptiveSpec* pSpec);
 KvrStatus kvriThresholdAdaptiveGauss_8u_C1R(const Kvr8u* pSrc, int srcStep, Kvr8u* pDst, int dstStep, KvriSize roiSize, KvriSize maskSize, Kvr32f delta, Kvr8u valGT, Kvr8u valLE, KvriBorderType borderType, Kvr8u borderValue, const KvriThresholdAdaptiveSpec* pSpec, Kvr8u* pBuffer);
 KvrStatus kvriThresholdAdaptiveGauss_8u_C1IR(Kvr8u* pSrcDst, int srcDstStep, KvriSize roiSize, KvriSize maskSize, Kvr32f delta, Kvr8u valGT, Kvr8u valLE, KvriBorderType borderType, Kvr8u borderValue, const KvriThresholdAdaptiveSpec* pSpec, Kvr8u* pBuffer);
+/* Functions of one operand, sample by sample. IR works in place; AC4 leaves the destination's fourth channel as it is. Functions of
+ * integers take a scale factor: the exact real result r is replaced by r * 2^-scaleFactor, rounded to the nearest integer, ties
+ * to even (Ln: half up), and saturated to the sample type. Every scale factor of the int range is accepted. The caller's
+ * floating-point control changes no result of Ln, Exp and the integer functions.
+ * Errors, in this order: null pointer -8, width or height below 1 -6, a step below 1 -14. */
+
+/* Abs - the magnitude; -32768 gives 32767. 32f: the sign bit is cleared, also of a NaN. */
+KvrStatus kvriAbs_16s_C1R(const Kvr16s* pSrc, int srcStep, Kvr16s* pDst, int dstStep, KvriSize roiSize);
+KvrStatus kvriAbs_16s_C1IR(Kvr16s* pSrcDst, int srcDstStep, KvriSize roiSize);
+KvrStatus kvriAbs_16s_C3R(const Kvr16s* pSrc, int srcStep, Kvr16s* pDst, int dstStep, KvriSize roiSize);
+KvrStatus kvriAbs_16s_C3IR(Kvr16s* pSrcDst, int srcDstStep, KvriSize roiSize);
+KvrStatus kvriAbs_16s_C4R(const Kvr16s* pSrc, int srcStep, Kvr16s* pDst, int dstStep, KvriSize roiSize);
+KvrStatus kvriAbs_16s_C4IR(Kvr16s* pSrcDst, int srcDstStep, KvriSize roiSize);
+KvrStatus kvriAbs_16s_AC4R(const Kvr16s* pSrc, int srcStep, Kvr16s* pDst, int dstStep, KvriSize roiSize);
+KvrStatus kvriAbs_16s_AC4IR(Kvr16s* pSrcDst, int srcDstStep, KvriSize roiSize);
+KvrStatus kvriAbs_32f_C1R(const Kvr32f* pSrc, int srcStep, Kvr32f* pDst, int dstStep, KvriSize roiSize);
+KvrStatus kvriAbs_32f_C1IR(Kvr32f* pSrcDst, int srcDstStep, KvriSize roiSize);
+KvrStatus kvriAbs_32f_C3R(const Kvr32f* pSrc, int srcStep, Kvr32f* pDst, int dstStep, KvriSize roiSize);
+KvrStatus kvriAbs_32f_C3IR(Kvr32f* pSrcDst, int srcDstStep, KvriSize roiSize);
+KvrStatus kvriAbs_32f_C4R(const Kvr32f* pSrc, int srcStep, Kvr32f* pDst, int dstStep, KvriSize roiSize);
+KvrStatus kvriAbs_32f_C4IR(Kvr32f* pSrcDst, int srcDstStep, KvriSize roiSize);
+KvrStatus kvriAbs_32f_AC4R(const Kvr32f* pSrc, int srcStep, Kvr32f* pDst, int dstStep, KvriSize roiSize);
+KvrStatus kvriAbs_32f_AC4IR(Kvr32f* pSrcDst, int srcDstStep, KvriSize roiSize);
+
+/* Sqr - the square. 32f in single precision. */
+KvrStatus kvriSqr_8u_C1RSfs(const Kvr8u* pSrc, int srcStep, Kvr8u* pDst, int dstStep, KvriSize roiSize, int scaleFactor);
+KvrStatus kvriSqr_8u_C1IRSfs(Kvr8u* pSrcDst, int srcDstStep, KvriSize roiSize, int scaleFactor);
+KvrStatus kvriSqr_8u_C3RSfs(const Kvr8u* pSrc, int srcStep, Kvr8u* pDst, int dstStep, KvriSize roiSize, int scaleFactor);
+KvrStatus kvriSqr_8u_C3IRSfs(Kvr8u* pSrcDst, int srcDstStep, KvriSize roiSize, int scaleFactor);
+KvrStatus kvriSqr_8u_C4RSfs(const Kvr8u* pSrc, int srcStep, Kvr8u* pDst, int dstStep, KvriSize roiSize, int scaleFactor);
+KvrStatus kvriSqr_8u_C4IRSfs(Kvr8u* pSrcDst, int srcDstStep, KvriSize roiSize, int scaleFactor);
+KvrStatus kvriSqr_8u_AC4RSfs(const Kvr8u* pSrc, int srcStep, Kvr8u* pDst, int dstStep, KvriSize roiSize, int scaleFactor);
+KvrStatus kvriSqr_8u_AC4IRSfs(Kvr8u* pSrcDst, int srcDstStep, KvriSize roiSize, int scaleFactor);
+KvrStatus kvriSqr_16u_C1RSfs(const Kvr16u* pSrc, int srcStep, Kvr16u* pDst, int dstStep, KvriSize roiSize, int scaleFactor);
+KvrStatus kvriSqr_16u_C1IRSfs(Kvr16u* pSrcDst, int srcDstStep, KvriSize roiSize, int scaleFactor);
+KvrStatus kvriSqr_16u_C3RSfs(const Kvr16u* pSrc, int srcStep, Kvr16u* pDst, int dstStep, KvriSize roiSize, int scaleFactor);
+KvrStatus kvriSqr_16u_C3IRSfs(Kvr16u* pSrcDst, int srcDstStep, KvriSize roiSize, int scaleFactor);
+KvrStatus kvriSqr_16u_C4RSfs(const Kvr16u* pSrc, int srcStep, Kvr16u* pDst, int dstStep, KvriSize roiSize, int scaleFactor);
+KvrStatus kvriSqr_16u_C4IRSfs(Kvr16u* pSrcDst, int srcDstStep, KvriSize roiSize, int scaleFactor);
+KvrStatus kvriSqr_16u_AC4RSfs(const Kvr16u* pSrc, int srcStep, Kvr16u* pDst, int dstStep, KvriSize roiSize, int scaleFactor);
+KvrStatus kvriSqr_16u_AC4IRSfs(Kvr16u* pSrcDst, int srcDstStep, KvriSize roiSize, int scaleFactor);
+KvrStatus kvriSqr_16s_C1RSfs(const Kvr16s* pSrc, int srcStep, Kvr16s* pDst, int dstStep, KvriSize roiSize, int scaleFactor);
+KvrStatus kvriSqr_16s_C1IRSfs(Kvr16s* pSrcDst, int srcDstStep, KvriSize roiSize, int scaleFactor);
+KvrStatus kvriSqr_16s_C3RSfs(const Kvr16s* pSrc, int srcStep, Kvr16s* pDst, int dstStep, KvriSize roiSize, int scaleFactor);
+KvrStatus kvriSqr_16s_C3IRSfs(Kvr16s* pSrcDst, int srcDstStep, KvriSize roiSize, int scaleFactor);
+KvrStatus kvriSqr_16s_C4RSfs(const Kvr16s* pSrc, int srcStep, Kvr16s* pDst, int dstStep, KvriSize roiSize, int scaleFactor);
+KvrStatus kvriSqr_16s_C4IRSfs(Kvr16s* pSrcDst, int srcDstStep, KvriSize roiSize, int scaleFactor);
+KvrStatus kvriSqr_16s_AC4RSfs(const Kvr16s* pSrc, int srcStep, Kvr16s* pDst, int dstStep, KvriSize roiSize, int scaleFactor);
+KvrStatus kvriSqr_16s_AC4IRSfs(Kvr16s* pSrcDst, int srcDstStep, KvriSize roiSize, int scaleFactor);
+KvrStatus kvriSqr_32f_C1R(const Kvr32f* pSrc, int srcStep, Kvr32f* pDst, int dstStep, KvriSize roiSize);
+KvrStatus kvriSqr_32f_C1IR(Kvr32f* pSrcDst, int srcDstStep, KvriSize roiSize);
+KvrStatus kvriSqr_32f_C3R(const Kvr32f* pSrc, int srcStep, Kvr32f* pDst, int dstStep, KvriSize roiSize);
+KvrStatus kvriSqr_32f_C3IR(Kvr32f* pSrcDst, int srcDstStep, KvriSize roiSize);
+KvrStatus kvriSqr_32f_C4R(const Kvr32f* pSrc, int srcStep, Kvr32f* pDst, int dstStep, KvriSize roiSize);
+KvrStatus kvriSqr_32f_C4IR(Kvr32f* pSrcDst, int srcDstStep, KvriSize roiSize);
+KvrStatus kvriSqr_32f_AC4R(const Kvr32f* pSrc, int srcStep, Kvr32f* pDst, int dstStep, KvriSize roiSize);
+KvrStatus kvriSqr_32f_AC4IR(Kvr32f* pSrcDst, int srcDstStep, KvriSize roiSize);
+
+/* Sqrt - the square root. A negative 16s sample gives 0, a negative 32f sample a NaN. 32f is correctly rounded. */
+KvrStatus kvriSqrt_8u_C1RSfs(const Kvr8u* pSrc, int srcStep, Kvr8u* pDst, int dstStep, KvriSize roiSize, int scaleFactor);
+KvrStatus kvriSqrt_8u_C1IRSfs(Kvr8u* pSrcDst, int srcDstStep, KvriSize roiSize, int scaleFactor);
+KvrStatus kvriSqrt_8u_C3RSfs(const Kvr8u* pSrc, int srcStep, Kvr8u* pDst, int dstStep, KvriSize roiSize, int scaleFactor);
+KvrStatus kvriSqrt_8u_C3IRSfs(Kvr8u* pSrcDst, int srcDstStep, KvriSize roiSize, int scaleFactor);
+KvrStatus kvriSqrt_8u_AC4RSfs(const Kvr8u* pSrc, int srcStep, Kvr8u* pDst, int dstStep, KvriSize roiSize, int scaleFactor);
+KvrStatus kvriSqrt_8u_AC4IRSfs(Kvr8u* pSrcDst, int srcDstStep, KvriSize roiSize, int scaleFactor);
+KvrStatus kvriSqrt_16u_C1RSfs(const Kvr16u* pSrc, int srcStep, Kvr16u* pDst, int dstStep, KvriSize roiSize, int scaleFactor);
+KvrStatus kvriSqrt_16u_C1IRSfs(Kvr16u* pSrcDst, int srcDstStep, KvriSize roiSize, int scaleFactor);
+KvrStatus kvriSqrt_16u_C3RSfs(const Kvr16u* pSrc, int srcStep, Kvr16u* pDst, int dstStep, KvriSize roiSize, int scaleFactor);
+KvrStatus kvriSqrt_16u_C3IRSfs(Kvr16u* pSrcDst, int srcDstStep, KvriSize roiSize, int scaleFactor);
+KvrStatus kvriSqrt_16u_AC4RSfs(const Kvr16u* pSrc, int srcStep, Kvr16u* pDst, int dstStep, KvriSize roiSize, int scaleFactor);
+KvrStatus kvriSqrt_16u_AC4IRSfs(Kvr16u* pSrcDst, int srcDstStep, KvriSize roiSize, int scaleFactor);
+KvrStatus kvriSqrt_16s_C1RSfs(const Kvr16s* pSrc, int srcStep, Kvr16s* pDst, int dstStep, KvriSize roiSize, int scaleFactor);
+KvrStatus kvriSqrt_16s_C1IRSfs(Kvr16s* pSrcDst, int srcDstStep, KvriSize roiSize, int scaleFactor);
+KvrStatus kvriSqrt_16s_C3RSfs(const Kvr16s* pSrc, int srcStep, Kvr16s* pDst, int dstStep, KvriSize roiSize, int scaleFactor);
+KvrStatus kvriSqrt_16s_C3IRSfs(Kvr16s* pSrcDst, int srcDstStep, KvriSize roiSize, int scaleFactor);
+KvrStatus kvriSqrt_16s_AC4RSfs(const Kvr16s* pSrc, int srcStep, Kvr16s* pDst, int dstStep, KvriSize roiSize, int scaleFactor);
+KvrStatus kvriSqrt_16s_AC4IRSfs(Kvr16s* pSrcDst, int srcDstStep, KvriSize roiSize, int scaleFactor);
+KvrStatus kvriSqrt_32f_C1R(const Kvr32f* pSrc, int srcStep, Kvr32f* pDst, int dstStep, KvriSize roiSize);
+KvrStatus kvriSqrt_32f_C1IR(Kvr32f* pSrcDst, int srcDstStep, KvriSize roiSize);
+KvrStatus kvriSqrt_32f_C3R(const Kvr32f* pSrc, int srcStep, Kvr32f* pDst, int dstStep, KvriSize roiSize);
+KvrStatus kvriSqrt_32f_C3IR(Kvr32f* pSrcDst, int srcDstStep, KvriSize roiSize);
+KvrStatus kvriSqrt_32f_AC4R(const Kvr32f* pSrc, int srcStep, Kvr32f* pDst, int dstStep, KvriSize roiSize);
+KvrStatus kvriSqrt_32f_AC4IR(Kvr32f* pSrcDst, int srcDstStep, KvriSize roiSize);
+KvrStatus kvriSqrt_32f_C4IR(Kvr32f* pSrcDst, int srcDstStep, KvriSize roiSize);
+
+/* Ln - the natural logarithm. A sample of 0 gives 0; where there is one, the status is the warning 7 after the whole ROI has
+ * been written. A negative 16s sample gives 0, a negative 32f sample a NaN. Integers: r * 2^-scaleFactor + 0.5, truncated.
+ * 32f: at most one unit in the last place from the correctly rounded value. */
+KvrStatus kvriLn_8u_C1RSfs(const Kvr8u* pSrc, int srcStep, Kvr8u* pDst, int dstStep, KvriSize roiSize, int scaleFactor);
+KvrStatus kvriLn_8u_C1IRSfs(Kvr8u* pSrcDst, int srcDstStep, KvriSize roiSize, int scaleFactor);
+KvrStatus kvriLn_8u_C3RSfs(const Kvr8u* pSrc, int srcStep, Kvr8u* pDst, int dstStep, KvriSize roiSize, int scaleFactor);
+KvrStatus kvriLn_8u_C3IRSfs(Kvr8u* pSrcDst, int srcDstStep, KvriSize roiSize, int scaleFactor);
+KvrStatus kvriLn_16u_C1RSfs(const Kvr16u* pSrc, int srcStep, Kvr16u* pDst, int dstStep, KvriSize roiSize, int scaleFactor);
+KvrStatus kvriLn_16u_C1IRSfs(Kvr16u* pSrcDst, int srcDstStep, KvriSize roiSize, int scaleFactor);
+KvrStatus kvriLn_16u_C3RSfs(const Kvr16u* pSrc, int srcStep, Kvr16u* pDst, int dstStep, KvriSize roiSize, int scaleFactor);
+KvrStatus kvriLn_16u_C3IRSfs(Kvr16u* pSrcDst, int srcDstStep, KvriSize roiSize, int scaleFactor);
+KvrStatus kvriLn_16s_C1RSfs(const Kvr16s* pSrc, int srcStep, Kvr16s* pDst, int dstStep, KvriSize roiSize, int scaleFactor);
+KvrStatus kvriLn_16s_C1IRSfs(Kvr16s* pSrcDst, int srcDstStep, KvriSize roiSize, int scaleFactor);
+KvrStatus kvriLn_16s_C3RSfs(const Kvr16s* pSrc, int srcStep, Kvr16s* pDst, int dstStep, KvriSize roiSize, int scaleFactor);
+KvrStatus kvriLn_16s_C3IRSfs(Kvr16s* pSrcDst, int srcDstStep, KvriSize roiSize, int scaleFactor);
+KvrStatus kvriLn_32f_C1R(const Kvr32f* pSrc, int srcStep, Kvr32f* pDst, int dstStep, KvriSize roiSize);
+KvrStatus kvriLn_32f_C1IR(Kvr32f* pSrcDst, int srcDstStep, KvriSize roiSize);
+KvrStatus kvriLn_32f_C3R(const Kvr32f* pSrc, int srcStep, Kvr32f* pDst, int dstStep, KvriSize roiSize);
+KvrStatus kvriLn_32f_C3IR(Kvr32f* pSrcDst, int srcDstStep, KvriSize roiSize);
+
+/* Exp - the exponential function. 32f: at most one unit in the last place from the correctly rounded value. */
+KvrStatus kvriExp_8u_C1RSfs(const Kvr8u* pSrc, int srcStep, Kvr8u* pDst, int dstStep, KvriSize roiSize, int scaleFactor);
+KvrStatus kvriExp_8u_C1IRSfs(Kvr8u* pSrcDst, int srcDstStep, KvriSize roiSize, int scaleFactor);
+KvrStatus kvriExp_8u_C3RSfs(const Kvr8u* pSrc, int srcStep, Kvr8u* pDst, int dstStep, KvriSize roiSize, int scaleFactor);
+KvrStatus kvriExp_8u_C3IRSfs(Kvr8u* pSrcDst, int srcDstStep, KvriSize roiSize, int scaleFactor);
+KvrStatus kvriExp_16u_C1RSfs(const Kvr16u* pSrc, int srcStep, Kvr16u* pDst, int dstStep, KvriSize roiSize, int scaleFactor);
+KvrStatus kvriExp_16u_C1IRSfs(Kvr16u* pSrcDst, int srcDstStep, KvriSize roiSize, int scaleFactor);
+KvrStatus kvriExp_16u_C3RSfs(const Kvr16u* pSrc, int srcStep, Kvr16u* pDst, int dstStep, KvriSize roiSize, int scaleFactor);
+KvrStatus kvriExp_16u_C3IRSfs(Kvr16u* pSrcDst, int srcDstStep, KvriSize roiSize, int scaleFactor);
+KvrStatus kvriExp_16s_C1RSfs(const Kvr16s* pSrc, int srcStep, Kvr16s* pDst, int dstStep, KvriSize roiSize, int scaleFactor);
+KvrStatus kvriExp_16s_C1IRSfs(Kvr16s* pSrcDst, int srcDstStep, KvriSize roiSize, int scaleFactor);
+KvrStatus kvriExp_16s_C3RSfs(const Kvr16s* pSrc, int srcStep, Kvr16s* pDst, int dstStep, KvriSize roiSize, int scaleFactor);
+KvrStatus kvriExp_16s_C3IRSfs(Kvr16s* pSrcDst, int srcDstStep, KvriSize roiSize, int scaleFactor);
+KvrStatus kvriExp_32f_C1R(const Kvr32f* pSrc, int srcStep, Kvr32f* pDst, int dstStep, KvriSize roiSize);
+KvrStatus kvriExp_32f_C1IR(Kvr32f* pSrcDst, int srcDstStep, KvriSize roiSize);
+KvrStatus kvriExp_32f_C3R(const Kvr32f* pSrc, int srcStep, Kvr32f* pDst, int dstStep, KvriSize roiSize);
+KvrStatus kvriExp_32f_C3IR(Kvr32f* pSrcDst, int srcDstStep, KvriSize roiSize);
 
 #pragma GCC visibility pop
 #ifdef __cplusplus
