@@ -78,14 +78,28 @@ inline Vec<int64_t, sizeof(V)> multiplyEven(V a, V b) {
 #endif
 }
 
-// min(a, b) of 8u, 16u.
+// min(a, b) and max(a, b) of 8u, 16u, 16s, 32f. Of 32f it is b where a NaN is involved, and where both are zeros.
 template <class V>
 inline V smaller(V a, V b) {
     if constexpr (kHolds<V, uint8_t>) { KVRI_BY_WIDTH(V, min_epu8, raw(a), raw(b)); }
+    else if constexpr (kHolds<V, int16_t>) { KVRI_BY_WIDTH(V, min_epi16, raw(a), raw(b)); }
+    else if constexpr (kHolds<V, float>) { KVRI_BY_WIDTH(V, min_ps, raw(a), raw(b)); }
 #if defined(__SSE4_1__)
     else { KVRI_BY_WIDTH(V, min_epu16, raw(a), raw(b)); }
 #else
     else return a - subSat(a, b);
+#endif
+}
+
+template <class V>
+inline V larger(V a, V b) {
+    if constexpr (kHolds<V, uint8_t>) { KVRI_BY_WIDTH(V, max_epu8, raw(a), raw(b)); }
+    else if constexpr (kHolds<V, int16_t>) { KVRI_BY_WIDTH(V, max_epi16, raw(a), raw(b)); }
+    else if constexpr (kHolds<V, float>) { KVRI_BY_WIDTH(V, max_ps, raw(a), raw(b)); }
+#if defined(__SSE4_1__)
+    else { KVRI_BY_WIDTH(V, max_epu16, raw(a), raw(b)); }
+#else
+    else return b + subSat(a, b);
 #endif
 }
 
@@ -129,6 +143,45 @@ inline V operator>>(V v, Shift n) {
     else if constexpr (sizeof(T) == 4) { KVRI_BY_WIDTH(V, srl_epi32, raw(v), n); }
     else { KVRI_BY_WIDTH(V, srl_epi64, raw(v), n); }
 }
+
+// 32s, shifted by a count of its own for each element; to the right with their sign.
+#if defined(__AVX2__)
+template <class V>
+inline V shiftLeft(V v, V counts) {
+    KVRI_BY_WIDTH(V, sllv_epi32, raw(v), raw(counts));
+}
+
+template <class V>
+inline V shiftRight(V v, V counts) {
+    KVRI_BY_WIDTH(V, srav_epi32, raw(v), raw(counts));
+}
+#else
+namespace detail {
+
+// shifted(count) shifts all elements; each keeps what its own count gave.
+template <class V, class F>
+inline V shiftEach(V counts, F shifted) {
+    V r{};
+    unroll<4>([&](auto element) KVRI_INLINE {
+        constexpr int e = element;
+        const V count = shuffle(counts, constant<V>([](int i) { return i < 4 ? 4 * e + i : 128; }));
+        r |= (V)shifted((__m128i)count) & constant<V>([](int i) { return i / 4 == e ? 255 : 0; });
+    });
+    return r;
+}
+
+}  // namespace detail
+
+template <class V>
+inline V shiftLeft(V v, V counts) {
+    return detail::shiftEach(counts, [&](__m128i n) KVRI_INLINE { return _mm_sll_epi32((__m128i)v, n); });
+}
+
+template <class V>
+inline V shiftRight(V v, V counts) {
+    return detail::shiftEach(counts, [&](__m128i n) KVRI_INLINE { return _mm_sra_epi32((__m128i)v, n); });
+}
+#endif
 
 // Element i of each lane becomes element f(i) of it; f captures nothing.
 template <class V, class F>
@@ -233,9 +286,7 @@ inline Vec<int32_t, 32> toNearestHalf(Vec<double, 64> v) { return (Vec<int32_t, 
 template <class V>
 inline V clamp(V v, V low, V high) {
     if constexpr (kHolds<V, float>) {
-        const auto least = [](V a, V b) { KVRI_BY_WIDTH(V, min_ps, raw(a), raw(b)); };
-        const auto most = [](V a, V b) { KVRI_BY_WIDTH(V, max_ps, raw(a), raw(b)); };
-        return most(least(v, high), low);
+        return larger(smaller(v, high), low);
     } else {
         const auto least = [](V a, V b) { KVRI_BY_WIDTH(V, min_pd, raw(a), raw(b)); };
         const auto most = [](V a, V b) { KVRI_BY_WIDTH(V, max_pd, raw(a), raw(b)); };
