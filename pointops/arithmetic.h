@@ -220,6 +220,14 @@ KvrStatus valueInPlace(Value value, T* pSrcDst, int srcDstStep, KvriSize roi, Sc
     return imageAndValues<Family, T, C1>(pSrcDst, srcDstStep, &value, pSrcDst, srcDstStep, roi, scale...);
 }
 
+// Constants as functions take them: for one channel the value itself, else an array.
+template <class T, class L>
+using Constants = std::conditional_t<L::channels == 1, T, const T*>;
+template <class T>
+const T* arrayOf(const T& value) { return &value; }
+template <class T>
+const T* arrayOf(const T* values) { return values; }
+
 // The in-place form of a body of one image.
 template <auto body>
 struct InPlace;

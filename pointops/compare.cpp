@@ -1,0 +1,277 @@
+// pointops/compare.cpp: Compare, CompareC, CompareEqualEps and CompareEqualEpsC: a mask byte for each pixel.
+//
+// A block is as many pixels as a vector has bytes. Samples are compared vector by vector; what comes out is brought down to
+// one bit, or one byte, per sample, then per pixel.
+#include "core/layout.h"
+#include "datamove/interleave.h"
+#include "kvri/pointops.h"
+#include "pointops/arithmetic.h"
+
+namespace kvri {
+namespace {
+
+enum Relation { kEqual, kLess, kLessOrEqual };  // the comparing instructions' codes
+
+#if defined(__AVX512BW__)
+
+// Of a vector's elements: a bit each.
+using Mask = uint64_t;
+
+template <Relation relation, class V>
+inline Mask holds(V a, V b) {
+    if constexpr (kHolds<V, uint8_t>) return _mm512_cmp_epu8_mask(raw(a), raw(b), relation);
+    else if constexpr (kHolds<V, uint16_t>) return _mm512_cmp_epu16_mask(raw(a), raw(b), relation);
+    else if constexpr (kHolds<V, int16_t>) return _mm512_cmp_epi16_mask(raw(a), raw(b), relation);
+    else return _mm512_cmp_ps_mask(raw(a), raw(b), relation);
+}
+
+// The masks of consecutive vectors as one of 64 samples.
+inline Mask join(const Mask (&m)[1]) { return m[0]; }
+inline Mask join(const Mask (&m)[2]) { return _mm512_kunpackd(m[1], m[0]); }
+inline Mask join(const Mask (&m)[4]) {
+    return _mm512_kunpackd(_mm512_kunpackw(__mmask32(m[3]), __mmask32(m[2])), _mm512_kunpackw(__mmask32(m[1]), __mmask32(m[0])));
+}
+
+// Bytes of 64 pixels. Each pixel's first bit meets those of its other channels; the first bits are then taken together.
+template <class L>
+KVRI_INLINE inline Bytes<> pixelMasks(const Mask (&samples)[L::channels]) {
+    constexpr int C = L::channels;
+    Mask pixels = samples[0];
+    if constexpr (C > 1) {
+        pixels = 0;
+        unroll<C>([&](auto index) KVRI_INLINE {
+            constexpr int w = index, before = (w * 64 + C - 1) / C;  // pixels that begin in earlier words
+            Mask all = samples[w];
+            unroll<L::colours - 1>([&](auto k) KVRI_INLINE {
+                constexpr int channel = k + 1;
+                Mask others = samples[w] >> channel;
+                if constexpr (64 % C != 0 && w + 1 < C) others |= samples[w + 1] << (64 - channel);
+                all &= others;
+            });
+            constexpr Mask firsts = choose<Bytes<>>([](int i) { return (w * 64 + i) % L::channels == 0; });
+            pixels |= _pext_u64(all, firsts) << before;
+        });
+    }
+    return blend<Bytes<>>(pixels, splat<Bytes<>>(255), Bytes<>{});
+}
+
+#else
+
+// Of a vector's elements: 255 or 0 in every byte.
+using Mask = Bytes<>;
+
+template <Relation relation, class V>
+inline Mask holds(V a, V b) {
+    if constexpr (relation == kEqual) return (Mask)(a == b);
+    else if constexpr (relation == kLess) return (Mask)(a < b);
+    else return (Mask)(a <= b);
+}
+
+// The masks of consecutive vectors as one, a byte for each element. Vectors of two lanes are then put in order.
+inline Mask join(const Mask (&m)[1]) { return m[0]; }
+inline Mask join(const Mask (&m)[2]) {
+    const Mask bytes = (Mask)narrow<int8_t>((Vec<int16_t>)m[0], (Vec<int16_t>)m[1]);
+    if constexpr (kVectorBytes == 16) return bytes;
+    else return permute4(bytes, [](int i) { return i / 2 % 2 * 4 + i / 4 * 2 + i % 2; });
+}
+inline Mask join(const Mask (&m)[4]) {
+    const auto words = [&](int i) { return narrow<int16_t>((Vec<int32_t>)m[i], (Vec<int32_t>)m[i + 1]); };
+    const Mask bytes = (Mask)narrow<int8_t>(words(0), words(2));
+    if constexpr (kVectorBytes == 16) return bytes;
+    else return permute4(bytes, [](int i) { return i % 2 * 4 + i / 2; });
+}
+
+template <class L>
+KVRI_INLINE inline Bytes<> pixelMasks(const Mask (&samples)[L::channels]) {
+    if constexpr (L::channels == 1) {
+        return samples[0];
+    } else if constexpr (L::channels == 3) {
+        Mask plane[3];
+        ThreeChannels<1>::split(samples, plane);
+        return plane[0] & plane[1] & plane[2];
+    } else {
+        Mask whole[4];
+        const Mask ignored = constant<Mask>([](int i) { return i % 4 < L::colours ? 0 : 255; });
+        for (int i = 0; i < 4; ++i) whole[i] = (Mask)((Vec<int32_t>)(samples[i] | ignored) == -1);
+        return join(whole);
+    }
+}
+
+#endif
+
+// Operations give the mask of op(a, b).
+
+template <class T, Relation relation>
+struct Holds {
+    using Sample = T;
+    Mask operator()(Vec<T> a, Vec<T> b) const { return holds<relation>(a, b); }
+};
+
+template <class T, Relation relation>
+struct HoldsReversed {
+    using Sample = T;
+    Mask operator()(Vec<T> a, Vec<T> b) const { return holds<relation>(b, a); }
+};
+
+struct Near {
+    using Sample = Kvr32f;
+    using V = Vec<Kvr32f>;
+    V eps;
+    Mask operator()(V a, V b) const {
+        const V difference = (V)((Vec<uint32_t>)(a - b) & 0x7FFFFFFF);
+        return holds<kLessOrEqual>(difference, eps);
+    }
+};
+
+template <class L, class Op, class A, class B>
+KVRI_INLINE inline void maskRow(const Op& operation, uint8_t* dst, ptrdiff_t pixels, A a, B b) {
+    const Op op = operation;
+    using V = Vec<typename Op::Sample>;
+    constexpr int S = sizeof(typename Op::Sample), pixelBytes = S * L::channels;
+    forEachBlock<kVectorBytes, 0, pixelBytes == 1 ? 4 : 1>(pixels, [&](auto block, ptrdiff_t first, ptrdiff_t n) KVRI_INLINE {
+        Mask samples[L::channels];
+        unroll<L::channels>([&](auto c) KVRI_INLINE {
+            Mask part[S];
+            unroll<S>([&](auto s) KVRI_INLINE {
+                constexpr int j = c * S + s;
+                const ptrdiff_t bytes = n * pixelBytes - j * kVectorBytes;
+                part[s] = op((V)a.template vector<j>(block, first, bytes), (V)b.template vector<j>(block, first, bytes));
+            });
+            samples[c] = join(part);
+        });
+        block.store(dst + first, pixelMasks<L>(samples), n);
+    });
+}
+
+// What an operation is mapped over.
+template <class T, class L>
+struct MaskOfTwo {
+    static constexpr int B = sizeof(T) * L::channels;
+    Operand a, b;
+    Result d;
+    KvriSize roi;
+
+    template <class Op>
+    void operator()(const Op& op) const {
+        eachRow(roi, [&](auto pa, auto pb, auto pd, ptrdiff_t pixels) KVRI_INLINE {
+            maskRow<L>(op, pd, pixels, FromImage<B>{pa}, FromImage<B>{pb});
+        }, source<B>(a.p, a.step), source<B>(b.p, b.step), destination<1>(d.p, d.step));
+    }
+};
+
+template <class T, class L>
+struct MaskWithValue {
+    static constexpr int B = sizeof(T) * L::channels;
+    Operand a;
+    const T* value;
+    Result d;
+    KvriSize roi;
+
+    template <class Op>
+    void operator()(const Op& op) const {
+        const auto values = pattern<L>(value);
+        eachRow(roi, [&](auto pa, auto pd, ptrdiff_t pixels) KVRI_INLINE {
+            maskRow<L>(op, pd, pixels, FromImage<B>{pa}, values);
+        }, source<B>(a.p, a.step), destination<1>(d.p, d.step));
+    }
+};
+
+// Unknown codes do nothing.
+template <class T, class Task>
+void mapRelation(const Task& task, KvrCmpOp cmpOp) {
+    switch (cmpOp) {
+        case kvrCmpLess: return task(Holds<T, kLess>{});
+        case kvrCmpLessEq: return task(Holds<T, kLessOrEqual>{});
+        case kvrCmpEq: return task(Holds<T, kEqual>{});
+        case kvrCmpGreaterEq: return task(HoldsReversed<T, kLessOrEqual>{});
+        case kvrCmpGreater: return task(HoldsReversed<T, kLess>{});
+    }
+}
+
+template <class T, class L>
+KvrStatus compare(const T* pSrc1, int src1Step, const T* pSrc2, int src2Step, Kvr8u* pDst, int dstStep, KvriSize roi,
+                  KvrCmpOp cmpOp) {
+    if (KvrStatus e = firstError(nonNull(pSrc1, pSrc2, pDst), positiveSteps(src1Step, src2Step, dstStep), hasPixels(roi)))
+        return e;
+    mapRelation<T>(MaskOfTwo<T, L>{{pSrc1, src1Step}, {pSrc2, src2Step}, {pDst, dstStep}, roi}, cmpOp);
+    return kvrStatusOk;
+}
+
+template <class T, class L>
+KvrStatus compareWithValue(const T* pSrc, int srcStep, Constants<T, L> value, Kvr8u* pDst, int dstStep, KvriSize roi,
+                           KvrCmpOp cmpOp) {
+    const T* values = arrayOf(value);
+    if (KvrStatus e = firstError(nonNull(pSrc, values, pDst), positiveSteps(srcStep, dstStep), hasPixels(roi))) return e;
+    mapRelation<T>(MaskWithValue<T, L>{{pSrc, srcStep}, values, {pDst, dstStep}, roi}, cmpOp);
+    return kvrStatusOk;
+}
+
+constexpr KvrStatus notNegative(Kvr32f eps) { return eps < 0 ? kvrStatusBadEps : kvrStatusOk; }
+
+template <class L>
+KvrStatus compareEqualEps(const Kvr32f* pSrc1, int src1Step, const Kvr32f* pSrc2, int src2Step, Kvr8u* pDst, int dstStep,
+                          KvriSize roi, Kvr32f eps) {
+    if (KvrStatus e = firstError(nonNull(pSrc1, pSrc2, pDst), positiveSteps(src1Step, src2Step, dstStep), hasPixels(roi),
+                                 notNegative(eps)))
+        return e;
+    MaskOfTwo<Kvr32f, L>{{pSrc1, src1Step}, {pSrc2, src2Step}, {pDst, dstStep}, roi}(Near{splat<Vec<Kvr32f>>(eps)});
+    return kvrStatusOk;
+}
+
+template <class L>
+KvrStatus compareEqualEpsWithValue(const Kvr32f* pSrc, int srcStep, Constants<Kvr32f, L> value, Kvr8u* pDst, int dstStep,
+                                   KvriSize roi, Kvr32f eps) {
+    const Kvr32f* values = arrayOf(value);
+    if (KvrStatus e = firstError(nonNull(pSrc, values, pDst), positiveSteps(srcStep, dstStep), hasPixels(roi),
+                                 notNegative(eps)))
+        return e;
+    MaskWithValue<Kvr32f, L>{{pSrc, srcStep}, values, {pDst, dstStep}, roi}(Near{splat<Vec<Kvr32f>>(eps)});
+    return kvrStatusOk;
+}
+
+KVRI_EXPORT(kvriCompare_8u_C1R, compare<Kvr8u, C1>);
+KVRI_EXPORT(kvriCompare_8u_C3R, compare<Kvr8u, C3>);
+KVRI_EXPORT(kvriCompare_8u_C4R, compare<Kvr8u, C4>);
+KVRI_EXPORT(kvriCompare_8u_AC4R, compare<Kvr8u, AC4>);
+KVRI_EXPORT(kvriCompare_16u_C1R, compare<Kvr16u, C1>);
+KVRI_EXPORT(kvriCompare_16u_C3R, compare<Kvr16u, C3>);
+KVRI_EXPORT(kvriCompare_16u_C4R, compare<Kvr16u, C4>);
+KVRI_EXPORT(kvriCompare_16u_AC4R, compare<Kvr16u, AC4>);
+KVRI_EXPORT(kvriCompare_16s_C1R, compare<Kvr16s, C1>);
+KVRI_EXPORT(kvriCompare_16s_C3R, compare<Kvr16s, C3>);
+KVRI_EXPORT(kvriCompare_16s_C4R, compare<Kvr16s, C4>);
+KVRI_EXPORT(kvriCompare_16s_AC4R, compare<Kvr16s, AC4>);
+KVRI_EXPORT(kvriCompare_32f_C1R, compare<Kvr32f, C1>);
+KVRI_EXPORT(kvriCompare_32f_C3R, compare<Kvr32f, C3>);
+KVRI_EXPORT(kvriCompare_32f_C4R, compare<Kvr32f, C4>);
+KVRI_EXPORT(kvriCompare_32f_AC4R, compare<Kvr32f, AC4>);
+
+KVRI_EXPORT(kvriCompareC_8u_C1R, compareWithValue<Kvr8u, C1>);
+KVRI_EXPORT(kvriCompareC_8u_C3R, compareWithValue<Kvr8u, C3>);
+KVRI_EXPORT(kvriCompareC_8u_C4R, compareWithValue<Kvr8u, C4>);
+KVRI_EXPORT(kvriCompareC_8u_AC4R, compareWithValue<Kvr8u, AC4>);
+KVRI_EXPORT(kvriCompareC_16u_C1R, compareWithValue<Kvr16u, C1>);
+KVRI_EXPORT(kvriCompareC_16u_C3R, compareWithValue<Kvr16u, C3>);
+KVRI_EXPORT(kvriCompareC_16u_C4R, compareWithValue<Kvr16u, C4>);
+KVRI_EXPORT(kvriCompareC_16u_AC4R, compareWithValue<Kvr16u, AC4>);
+KVRI_EXPORT(kvriCompareC_16s_C1R, compareWithValue<Kvr16s, C1>);
+KVRI_EXPORT(kvriCompareC_16s_C3R, compareWithValue<Kvr16s, C3>);
+KVRI_EXPORT(kvriCompareC_16s_C4R, compareWithValue<Kvr16s, C4>);
+KVRI_EXPORT(kvriCompareC_16s_AC4R, compareWithValue<Kvr16s, AC4>);
+KVRI_EXPORT(kvriCompareC_32f_C1R, compareWithValue<Kvr32f, C1>);
+KVRI_EXPORT(kvriCompareC_32f_C3R, compareWithValue<Kvr32f, C3>);
+KVRI_EXPORT(kvriCompareC_32f_C4R, compareWithValue<Kvr32f, C4>);
+KVRI_EXPORT(kvriCompareC_32f_AC4R, compareWithValue<Kvr32f, AC4>);
+
+KVRI_EXPORT(kvriCompareEqualEps_32f_C1R, compareEqualEps<C1>);
+KVRI_EXPORT(kvriCompareEqualEps_32f_C3R, compareEqualEps<C3>);
+KVRI_EXPORT(kvriCompareEqualEps_32f_C4R, compareEqualEps<C4>);
+KVRI_EXPORT(kvriCompareEqualEps_32f_AC4R, compareEqualEps<AC4>);
+
+KVRI_EXPORT(kvriCompareEqualEpsC_32f_C1R, compareEqualEpsWithValue<C1>);
+KVRI_EXPORT(kvriCompareEqualEpsC_32f_C3R, compareEqualEpsWithValue<C3>);
+KVRI_EXPORT(kvriCompareEqualEpsC_32f_C4R, compareEqualEpsWithValue<C4>);
+KVRI_EXPORT(kvriCompareEqualEpsC_32f_AC4R, compareEqualEpsWithValue<AC4>);
+
+}  // namespace
+}  // namespace kvri
