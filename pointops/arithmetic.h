@@ -62,7 +62,7 @@ void mapTwo(const Op& op, Operand a, Operand b, Result d, KvriSize roi, int perP
 }
 
 template <int B, int Chosen, class Op, class... Values>
-void mapWithValues(const Op& op, Operand b, Result d, KvriSize roi, int perPixel, const Values&... values) {
+KVRI_INLINE inline void mapWithValues(const Op& op, Operand b, Result d, KvriSize roi, int perPixel, const Values&... values) {
     const ptrdiff_t pixelBytes = ptrdiff_t(perPixel) * B;
     eachRow(roi, [&](auto pb, auto pd, ptrdiff_t pixels) KVRI_INLINE {
         mapRow<B, Chosen>(op, pd, pixels * perPixel, values..., FromImage<B>{pb});

@@ -32,26 +32,44 @@ inline Mask join(const Mask (&m)[4]) {
     return _mm512_kunpackd(_mm512_kunpackw(__mmask32(m[3]), __mmask32(m[2])), _mm512_kunpackw(__mmask32(m[1]), __mmask32(m[0])));
 }
 
-// Bytes of 64 pixels. Each pixel's first bit meets those of its other channels; the first bits are then taken together.
+// One bit per pixel of three samples: the first sample's bit meets the other two; the first bits are then taken together.
+KVRI_INLINE inline Mask pixelsOfThree(const Mask (&samples)[3]) {
+    Mask word[3], pixels = 0;
+    for (int w = 0; w < 3; ++w) {
+        word[w] = samples[w];
+        asm("" : "+r"(word[w]));  // moved out of the mask register once, not for every use
+    }
+    unroll<3>([&](auto index) KVRI_INLINE {
+        constexpr int w = index, before = (w * 64 + 2) / 3;  // pixels that begin in earlier words
+        constexpr Mask firsts = choose<Bytes<>>([](int i) { return (w * 64 + i) % 3 == 0; });
+        const auto channel = [&](int k) KVRI_INLINE {
+            Mask bits = word[w] >> k;
+            if constexpr (w < 2) bits |= word[w + 1] << (64 - k);
+            return bits;
+        };
+        pixels |= _pext_u64(word[w] & channel(1) & channel(2), firsts) << before;
+    });
+    return pixels;
+}
+
+// Of four samples: those of 16 pixels make a vector of groups of which nothing is left where all compared channels hold.
+template <class L>
+KVRI_INLINE inline Mask pixelsOfFour(const Mask (&samples)[4]) {
+    const auto compared = constant<Bytes<>>([](int i) { return i % 4 < L::colours ? 255 : 0; });
+    Mask pixels[4];
+    for (int i = 0; i < 4; ++i) {
+        const auto left = (__m512i)blend<Bytes<>>(samples[i], Bytes<>{}, compared);
+        pixels[i] = _mm512_testn_epi32_mask(left, left);
+    }
+    return join(pixels);
+}
+
+// Bytes of 64 pixels.
 template <class L>
 KVRI_INLINE inline Bytes<> pixelMasks(const Mask (&samples)[L::channels]) {
-    constexpr int C = L::channels;
     Mask pixels = samples[0];
-    if constexpr (C > 1) {
-        pixels = 0;
-        unroll<C>([&](auto index) KVRI_INLINE {
-            constexpr int w = index, before = (w * 64 + C - 1) / C;  // pixels that begin in earlier words
-            Mask all = samples[w];
-            unroll<L::colours - 1>([&](auto k) KVRI_INLINE {
-                constexpr int channel = k + 1;
-                Mask others = samples[w] >> channel;
-                if constexpr (64 % C != 0 && w + 1 < C) others |= samples[w + 1] << (64 - channel);
-                all &= others;
-            });
-            constexpr Mask firsts = choose<Bytes<>>([](int i) { return (w * 64 + i) % L::channels == 0; });
-            pixels |= _pext_u64(all, firsts) << before;
-        });
-    }
+    if constexpr (L::channels == 3) pixels = pixelsOfThree(samples);
+    if constexpr (L::channels == 4) pixels = pixelsOfFour<L>(samples);
     return blend<Bytes<>>(pixels, splat<Bytes<>>(255), Bytes<>{});
 }
 
@@ -127,8 +145,8 @@ template <class L, class Op, class A, class B>
 KVRI_INLINE inline void maskRow(const Op& operation, uint8_t* dst, ptrdiff_t pixels, A a, B b) {
     const Op op = operation;
     using V = Vec<typename Op::Sample>;
-    constexpr int S = sizeof(typename Op::Sample), pixelBytes = S * L::channels;
-    forEachBlock<kVectorBytes, 0, pixelBytes == 1 ? 4 : 1>(pixels, [&](auto block, ptrdiff_t first, ptrdiff_t n) KVRI_INLINE {
+    constexpr int S = sizeof(typename Op::Sample), pixelBytes = S * L::channels, unrolled = std::max(1, 4 / pixelBytes);
+    forEachBlock<kVectorBytes, 0, unrolled>(pixels, [&](auto block, ptrdiff_t first, ptrdiff_t n) KVRI_INLINE {
         Mask samples[L::channels];
         unroll<L::channels>([&](auto c) KVRI_INLINE {
             Mask part[S];

@@ -15,15 +15,19 @@ using Words = Vec<uint16_t>;
 // 2^n, or 0 where a number of so many bits does not hold it.
 constexpr unsigned powerOfTwo(int64_t n, int bits) { return n >= 0 && n < bits ? 1u << n : 0; }
 
-// What an unsigned shift to the right makes of v; of negative numbers, of their complement.
-template <class V, class F>
-inline V withSign(V v, F shifted) {
-    if constexpr (std::is_unsigned_v<ElementOf<V>>) {
-        return shifted(v);
-    } else {
-        const V sign = v < 0;
-        return shifted(v ^ sign) ^ sign;
-    }
+// To the right, samples go no further than out, signed ones no further than to their sign.
+template <class T>
+constexpr int furthest(Kvr32u n) { return int(std::min<Kvr32u>(n, 8 * sizeof(T) - std::is_signed_v<T>)); }
+
+// Where that brings the top bit.
+template <class T>
+constexpr unsigned topAfter(Kvr32u n) { return 1u << (8 * sizeof(T) - 1) >> furthest<T>(n); }
+
+// What an unsigned shift to the right has made of signed samples, with the sign in all bits above.
+template <class T, class V>
+inline Vec<T> withSign(V shifted, V sign) {
+    if constexpr (std::is_signed_v<T>) return (Vec<T>)((shifted ^ sign) - sign);
+    else return shifted;
 }
 
 // Operations are op(v), or op(patterns..., v) where patterns<L>() makes these of one count per colour. Bytes are shifted in
@@ -48,15 +52,17 @@ public:
 template <class T>
 class RightByAll {
     Shift shift_;
-    Bytes<> kept_;
+    Bytes<> kept_, sign_;
 
 public:
     using Sample = T;
     static constexpr int unrolled = 4;
     using V = Vec<T>;
-    explicit RightByAll(Kvr32u n) : shift_(int(std::min(n, 32u))), kept_(splat<Bytes<>>(uint8_t(n < 8 ? 255 >> n : 0))) {}
+    explicit RightByAll(Kvr32u count)
+        : shift_(furthest<T>(count)), kept_(splat<Bytes<>>(uint8_t(255 >> furthest<T>(count)))),
+          sign_(splat<Bytes<>>(uint8_t(topAfter<T>(count)))) {}
     V operator()(V v) const {
-        if constexpr (sizeof(T) == 1) return withSign(v, [&](V u) KVRI_INLINE { return (V)((Words)u >> shift_) & (V)kept_; });
+        if constexpr (sizeof(T) == 1) return withSign<T>((Bytes<>)((Words)v >> shift_) & kept_, sign_);
         else return v >> shift_;
     }
 };
@@ -73,11 +79,11 @@ auto byteFactors(const Kvr32u* count, F factor) {
     return FromValue<2 * period>(factors, sizeof factors);
 }
 
-template <class L, class F>
-auto wordFactors(const Kvr32u* count, F factor) {
-    uint16_t factors[L::colours];
-    for (int i = 0; i < L::colours; ++i) factors[i] = uint16_t(factor(count[i]));
-    return pattern<L>(factors);
+template <class T, class L, class F>
+auto numbers(const Kvr32u* count, F number) {
+    T n[L::colours];
+    for (int i = 0; i < L::colours; ++i) n[i] = T(number(count[i]));
+    return pattern<L>(n);
 }
 
 template <class T, int Size = sizeof(T)>
@@ -105,15 +111,15 @@ struct RightByEach<T, 1> {
     using Sample = T;
     static constexpr int unrolled = 2;
     using V = Vec<T>;
-    V operator()(V even, V odd, V v) const {
-        return withSign(v, [&](V u) KVRI_INLINE {
-            return (V)((((Words)u & 0xFF) * (Words)even >> 8) | (((Words)u >> 8) * (Words)odd & 0xFF00));
-        });
+    V operator()(V even, V odd, V sign, V v) const {
+        const Words low = ((Words)v & 0xFF) * (Words)even >> 8, high = ((Words)v >> 8) * (Words)odd & 0xFF00;
+        return withSign<T>((Bytes<>)(low | high), (Bytes<>)sign);
     }
     template <class L>
     static auto patterns(const Kvr32u* count) {
-        const auto factor = [](Kvr32u n) { return powerOfTwo(8 - int64_t(n), 9); };
-        return std::make_tuple(byteFactors<L, 0>(count, factor), byteFactors<L, 1>(count, factor));
+        const auto factor = [](Kvr32u n) { return powerOfTwo(8 - furthest<T>(n), 9); };
+        return std::make_tuple(byteFactors<L, 0>(count, factor), byteFactors<L, 1>(count, factor),
+                               numbers<T, L>(count, topAfter<T>));
     }
 };
 
@@ -125,7 +131,7 @@ struct LeftByEach<T, 2> {
     V operator()(V factor, V v) const { return v * factor; }
     template <class L>
     static auto patterns(const Kvr32u* count) {
-        return std::make_tuple(wordFactors<L>(count, [](Kvr32u n) { return powerOfTwo(n, 16); }));
+        return std::make_tuple(numbers<T, L>(count, [](Kvr32u n) { return powerOfTwo(n, 16); }));
     }
 };
 
@@ -135,13 +141,14 @@ struct RightByEach<T, 2> {
     using Sample = T;
     static constexpr int unrolled = 4;
     using V = Vec<T>;
-    V operator()(V factor, V kept, V v) const {
-        return withSign(v, [&](V u) KVRI_INLINE { return (V)multiplyHigh((Words)u, (Words)factor) | (u & kept); });
+    V operator()(V factor, V kept, V sign, V v) const {
+        return withSign<T>(multiplyHigh((Words)v, (Words)factor) | (Words)(v & kept), (Words)sign);
     }
     template <class L>
     static auto patterns(const Kvr32u* count) {
-        return std::make_tuple(wordFactors<L>(count, [](Kvr32u n) { return powerOfTwo(16 - int64_t(n), 16); }),
-                               wordFactors<L>(count, [](Kvr32u n) { return n == 0 ? 0xFFFF : 0; }));
+        return std::make_tuple(
+            numbers<T, L>(count, [](Kvr32u n) { return powerOfTwo(16 - furthest<T>(n), 16); }),
+            numbers<T, L>(count, [](Kvr32u n) { return n == 0 ? 0xFFFF : 0; }), numbers<T, L>(count, topAfter<T>));
     }
 };
 

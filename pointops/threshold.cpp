@@ -42,7 +42,7 @@ struct ReplaceAbove {
 template <class T>
 struct ReplaceOutside {
     using Sample = T;
-    static constexpr int unrolled = 2;
+    static constexpr int unrolled = 4;
     using V = Vec<T>;
     V operator()(V low, V lowValue, V high, V highValue, V v) const {
         const V upper = v > high ? highValue : v;

@@ -11,7 +11,7 @@ namespace {
 constexpr int kLevels = 256;
 
 // How often each level occurs. Neighbouring pixels are often alike: they count in different tables, so that none waits for
-// the one before it. A table's 32-bit counts are added to the total before they can overflow.
+// the one before it. What then limits is one store per pixel. 32-bit counts are added to the total before they overflow.
 class LevelCounts {
     static constexpr int kTables = 4;
     static constexpr ptrdiff_t kMost = ptrdiff_t(1) << 31;
@@ -20,10 +20,7 @@ class LevelCounts {
     int64_t total_[kLevels] = {};
 
     void collect() {
-        for (int i = 0; i < kLevels; ++i) {
-            for (auto& table : table_) total_[i] += table[i], table[i] = 0;
-        }
-        counted_ = 0;
+        for (int i = 0; i < kLevels; ++i) total_[i] += table_[0][i] + table_[1][i] + table_[2][i] + table_[3][i];
     }
     void countSome(const uint8_t* p, ptrdiff_t n) {
         ptrdiff_t i = 0;
@@ -39,37 +36,58 @@ class LevelCounts {
 public:
     void count(const uint8_t* row, ptrdiff_t n) {
         while (n > 0) {
-            if (counted_ == kMost) collect();
+            if (counted_ == kMost) {
+                collect();
+                std::memset(table_, 0, sizeof table_);
+                counted_ = 0;
+            }
             const ptrdiff_t some = std::min(n, kMost - counted_);
             countSome(row, some);
             row += some;
             n -= some;
         }
     }
+    // The last thing to be asked.
     const int64_t* total() {
         collect();
         return total_;
     }
 };
 
+// Sums run level by level; the variances are then independent of each other. Where one of the classes is too small to count
+// there is none, and the moment is not added. As w0 only grows, such levels are the first and the last ones.
 Kvr8u otsu(const int64_t* count, double pixels) {
+    using V = Vec<double>;
     constexpr double least = 0x1p-23;
-    double p[kLevels], mean = 0;
+    constexpr int step = sizeof(V) / sizeof(double);
+    alignas(V) double p[kLevels], share[kLevels], weight[kLevels], moment[kLevels], variance[kLevels];
     for (int i = 0; i < kLevels; ++i) {
         p[i] = double(count[i]) / pixels;
-        mean += i * p[i];
+        share[i] = i * p[i];
     }
-    double w0 = 0, moment = 0, best = 0;
-    int threshold = 0;
-    for (int t = 0; t < kLevels; ++t) {
+    const auto counts = [](auto w0) { return (w0 >= least) & (1 - w0 >= least) & (w0 <= 1 - least) & (1 - w0 <= 1 - least); };
+    double mean = 0, w0 = 0, m0 = 0;
+    const auto sum = [&](int t, bool counted) KVRI_INLINE {
+        mean += share[t];
         w0 += p[t];
-        const double w1 = 1 - w0;
-        if (std::min(w0, w1) < least || std::max(w0, w1) > 1 - least) continue;
-        moment += t * p[t];
-        const double difference = moment / w0 - (mean - moment) / w1, variance = w0 * w1 * (difference * difference);
-        if (variance > best) best = variance, threshold = t;
+        if (counted) m0 += share[t];
+        weight[t] = w0, moment[t] = m0;
+    };
+    int t = 0;
+    for (; t < kLevels && !counts(w0 + p[t]); ++t) sum(t, false);
+    for (; t < kLevels; ++t) sum(t, true);
+    V most{};
+    for (t = 0; t < kLevels; t += step) {
+        const V w = load<V>(weight + t), m = load<V>(moment + t);
+        const auto valid = counts(w);
+        const V divisor = valid ? w : V{} + 0.5, rest = 1 - divisor;
+        const V difference = m / divisor - (mean - m) / rest, v = valid ? w * rest * (difference * difference) : V{};
+        store(variance + t, v);
+        most = v > most ? v : most;
     }
-    return Kvr8u(threshold);
+    double best = 0;
+    for (int i = 0; i < step; ++i) best = std::max(best, most[i]);
+    return best > 0 ? Kvr8u(std::find(variance, variance + kLevels, best) - variance) : 0;
 }
 
 KvrStatus computeThreshold(const Kvr8u* pSrc, int srcStep, KvriSize roi, Kvr8u* pThreshold) {
