@@ -32,47 +32,6 @@ inline Mask join(const Mask (&m)[4]) {
     return _mm512_kunpackd(_mm512_kunpackw(__mmask32(m[3]), __mmask32(m[2])), _mm512_kunpackw(__mmask32(m[1]), __mmask32(m[0])));
 }
 
-// One bit per pixel of three samples: the first sample's bit meets the other two; the first bits are then taken together.
-KVRI_INLINE inline Mask pixelsOfThree(const Mask (&samples)[3]) {
-    Mask word[3], pixels = 0;
-    for (int w = 0; w < 3; ++w) {
-        word[w] = samples[w];
-        asm("" : "+r"(word[w]));  // moved out of the mask register once, not for every use
-    }
-    unroll<3>([&](auto index) KVRI_INLINE {
-        constexpr int w = index, before = (w * 64 + 2) / 3;  // pixels that begin in earlier words
-        constexpr Mask firsts = choose<Bytes<>>([](int i) { return (w * 64 + i) % 3 == 0; });
-        const auto channel = [&](int k) KVRI_INLINE {
-            Mask bits = word[w] >> k;
-            if constexpr (w < 2) bits |= word[w + 1] << (64 - k);
-            return bits;
-        };
-        pixels |= _pext_u64(word[w] & channel(1) & channel(2), firsts) << before;
-    });
-    return pixels;
-}
-
-// Of four samples: those of 16 pixels make a vector of groups of which nothing is left where all compared channels hold.
-template <class L>
-KVRI_INLINE inline Mask pixelsOfFour(const Mask (&samples)[4]) {
-    const auto compared = constant<Bytes<>>([](int i) { return i % 4 < L::colours ? 255 : 0; });
-    Mask pixels[4];
-    for (int i = 0; i < 4; ++i) {
-        const auto left = (__m512i)blend<Bytes<>>(samples[i], Bytes<>{}, compared);
-        pixels[i] = _mm512_testn_epi32_mask(left, left);
-    }
-    return join(pixels);
-}
-
-// Bytes of 64 pixels.
-template <class L>
-KVRI_INLINE inline Bytes<> pixelMasks(const Mask (&samples)[L::channels]) {
-    Mask pixels = samples[0];
-    if constexpr (L::channels == 3) pixels = pixelsOfThree(samples);
-    if constexpr (L::channels == 4) pixels = pixelsOfFour<L>(samples);
-    return blend<Bytes<>>(pixels, splat<Bytes<>>(255), Bytes<>{});
-}
-
 #else
 
 // Of a vector's elements: 255 or 0 in every byte.
@@ -99,8 +58,80 @@ inline Mask join(const Mask (&m)[4]) {
     else return permute4(bytes, [](int i) { return i % 2 * 4 + i / 2; });
 }
 
+#endif
+
+// The masks of vectors c * S and the S - 1 behind it as one.
+template <int S, int c, class F>
+KVRI_INLINE inline Mask joined(F vectorMask) {
+    Mask m[S];
+    unroll<S>([&](auto s) KVRI_INLINE { m[s] = vectorMask(std::integral_constant<int, c * S + s>{}); });
+    return join(m);
+}
+
+// Bytes of a block's pixels, where vectorMask(j) is the mask of its vector j: pixelBytes<L, sample's size>(vectorMask).
+#if defined(__AVX512BW__)
+
+// One bit per pixel of three samples: the first sample's bit meets the other two; the first bits are then taken together.
+KVRI_INLINE inline Mask pixelsOfThree(const Mask (&samples)[3]) {
+    Mask word[3], pixels = 0;
+    for (int w = 0; w < 3; ++w) {
+        word[w] = samples[w];
+        asm("" : "+r"(word[w]));  // moved out of the mask register once, not for every use
+    }
+    unroll<3>([&](auto index) KVRI_INLINE {
+        constexpr int w = index, before = (w * 64 + 2) / 3;  // pixels that begin in earlier words
+        constexpr Mask firsts = choose<Bytes<>>([](int i) { return (w * 64 + i) % 3 == 0; });
+        const auto channel = [&](int k) KVRI_INLINE {
+            Mask bits = word[w] >> k;
+            if constexpr (w < 2) bits |= word[w + 1] << (64 - k);
+            return bits;
+        };
+        pixels |= _pext_u64(word[w] & channel(1) & channel(2), firsts) << before;
+    });
+    return pixels;
+}
+
+// Of four samples: those of 16 pixels make a vector of groups of which nothing is left where all compared channels hold.
 template <class L>
-KVRI_INLINE inline Bytes<> pixelMasks(const Mask (&samples)[L::channels]) {
+KVRI_INLINE inline Mask pixelsOfFour(Mask samples) {
+    const auto compared = constant<Bytes<>>([](int i) { return i % 4 < L::colours ? 255 : 0; });
+    const auto left = (__m512i)blend<Bytes<>>(samples, Bytes<>{}, compared);
+    return _mm512_testn_epi32_mask(left, left);
+}
+
+// Bytes of 64 pixels from N masks. Joined as bytes, as mask registers leave the join to the one unit that compares.
+template <int N>
+KVRI_INLINE inline Bytes<> bytesOf(const Mask (&m)[N]) {
+    using Part = Bytes<64 / N>;
+    const auto part = [&](int i) KVRI_INLINE { return blend<Part>(m[i], splat<Part>(255), Part{}); };
+    if constexpr (N == 1) return part(0);
+    else if constexpr (N == 2) return joinHalves(part(0), part(1));
+    else return joinHalves(joinHalves(part(0), part(1)), joinHalves(part(2), part(3)));
+}
+
+template <class L, int S, class F>
+KVRI_INLINE inline Bytes<> pixelBytes(F vectorMask) {
+    if constexpr (L::channels == 1) {
+        Mask pixels[S];
+        unroll<S>([&](auto j) KVRI_INLINE { pixels[j] = vectorMask(j); });
+        return bytesOf(pixels);
+    } else if constexpr (L::channels == 3) {
+        Mask samples[3];
+        unroll<3>([&](auto c) KVRI_INLINE { samples[c] = joined<S, c>(vectorMask); });
+        return bytesOf<1>({pixelsOfThree(samples)});
+    } else {
+        Mask pixels[4];
+        unroll<4>([&](auto c) KVRI_INLINE { pixels[c] = pixelsOfFour<L>(joined<S, c>(vectorMask)); });
+        return bytesOf(pixels);
+    }
+}
+
+#else
+
+template <class L, int S, class F>
+KVRI_INLINE inline Bytes<> pixelBytes(F vectorMask) {
+    Mask samples[L::channels];
+    unroll<L::channels>([&](auto c) KVRI_INLINE { samples[c] = joined<S, c>(vectorMask); });
     if constexpr (L::channels == 1) {
         return samples[0];
     } else if constexpr (L::channels == 3) {
@@ -108,10 +139,9 @@ KVRI_INLINE inline Bytes<> pixelMasks(const Mask (&samples)[L::channels]) {
         ThreeChannels<1>::split(samples, plane);
         return plane[0] & plane[1] & plane[2];
     } else {
-        Mask whole[4];
         const Mask ignored = constant<Mask>([](int i) { return i % 4 < L::colours ? 0 : 255; });
-        for (int i = 0; i < 4; ++i) whole[i] = (Mask)((Vec<int32_t>)(samples[i] | ignored) == -1);
-        return join(whole);
+        for (Mask& m : samples) m = (Mask)((Vec<int32_t>)(m | ignored) == -1);
+        return join(samples);
     }
 }
 
@@ -145,19 +175,14 @@ template <class L, class Op, class A, class B>
 KVRI_INLINE inline void maskRow(const Op& operation, uint8_t* dst, ptrdiff_t pixels, A a, B b) {
     const Op op = operation;
     using V = Vec<typename Op::Sample>;
-    constexpr int S = sizeof(typename Op::Sample), pixelBytes = S * L::channels, unrolled = std::max(1, 4 / pixelBytes);
+    constexpr int S = sizeof(typename Op::Sample), pixel = S * L::channels, unrolled = std::max(1, 4 / pixel);
     forEachBlock<kVectorBytes, 0, unrolled>(pixels, [&](auto block, ptrdiff_t first, ptrdiff_t n) KVRI_INLINE {
-        Mask samples[L::channels];
-        unroll<L::channels>([&](auto c) KVRI_INLINE {
-            Mask part[S];
-            unroll<S>([&](auto s) KVRI_INLINE {
-                constexpr int j = c * S + s;
-                const ptrdiff_t bytes = n * pixelBytes - j * kVectorBytes;
-                part[s] = op((V)a.template vector<j>(block, first, bytes), (V)b.template vector<j>(block, first, bytes));
-            });
-            samples[c] = join(part);
-        });
-        block.store(dst + first, pixelMasks<L>(samples), n);
+        const auto vectorMask = [&](auto index) KVRI_INLINE {
+            constexpr int j = index;
+            const ptrdiff_t bytes = n * pixel - j * kVectorBytes;
+            return op((V)a.template vector<j>(block, first, bytes), (V)b.template vector<j>(block, first, bytes));
+        };
+        block.store(dst + first, pixelBytes<L, S>(vectorMask), n);
     });
 }
 
