@@ -73,8 +73,9 @@ inline Vec<int64_t, sizeof(V)> multiplyEven(V a, V b) {
 #if defined(__SSE4_1__)
     KVRI_BY_WIDTH(R, mul_epi32, raw(a), raw(b));
 #else
-    const R correction = (R)(((a >> 31) & b) + ((b >> 31) & a));  // what a negative factor adds when taken as unsigned
-    return (R)((Vec<uint64_t, sizeof(V)>)_mm_mul_epu32((__m128i)a, (__m128i)b) - ((Vec<uint64_t, sizeof(V)>)correction << 32));
+    using U = Vec<uint32_t>;
+    const U correction = (U)((a >> 31) & b) + (U)((b >> 31) & a);  // what a negative factor adds when taken as unsigned
+    return (R)((Vec<uint64_t>)_mm_mul_epu32((__m128i)a, (__m128i)b) - ((Vec<uint64_t>)correction << 32));
 #endif
 }
 
@@ -282,6 +283,14 @@ inline Vec<int32_t, 16> toNearestHalf(Vec<double, 32> v) { return (Vec<int32_t, 
 inline Vec<int32_t, 32> toNearestHalf(Vec<double, 64> v) { return (Vec<int32_t, 32>)_mm512_cvtpd_epi32((__m512d)v); }
 #endif
 
+#if defined(__FMA__)
+// a * b + c, rounded once: for results that are proved to be the same without.
+template <class V>
+inline V fusedMultiplyAdd(V a, V b, V c) {
+    KVRI_BY_WIDTH(V, fmadd_ps, raw(a), raw(b), raw(c));
+}
+#endif
+
 // The number of the range low to high that is nearest to v; v is no NaN.
 template <class V>
 inline V clamp(V v, V low, V high) {
@@ -292,6 +301,18 @@ inline V clamp(V v, V low, V high) {
         const auto most = [](V a, V b) { KVRI_BY_WIDTH(V, max_pd, raw(a), raw(b)); };
         return most(least(v, high), low);
     }
+}
+
+// Of 32f, the smaller one in magnitude, perhaps without its sign.
+template <class V>
+inline V smallerMagnitude(V a, V b) {
+#if defined(__AVX512DQ__)
+    return (V)_mm512_range_ps((__m512)a, (__m512)b, 0b1010);
+#else
+    using I = Vec<int32_t>;
+    const I x = (I)a & 0x7FFFFFFF, y = (I)b & 0x7FFFFFFF;
+    return (V)(x < y ? x : y);
+#endif
 }
 
 // Whether any element is 0.

@@ -108,17 +108,30 @@ struct BytesOf {
 template <class L>
 constexpr bool kWholePixels = kAlpha<L> || L::channels % 3 == 0;
 
-// One value per colour, as a source.
-template <class L, class T>
-auto pattern(const T* value) {
-    constexpr int S = sizeof(T), lane = 16;
+// Constants as they are.
+template <class T>
+struct ValuePattern {
+    template <int B>
+    struct Of : FromValue<B> {
+        Of(const T* values, int n) : FromValue<B>(values, n * int(sizeof(T))) {}
+    };
+};
+
+// One value per colour as a source of samples of T: Pattern<B> repeats values, one per sample, in pixels of B bytes.
+template <template <int> class Pattern, class T, class L, class Value>
+auto patternOf(const Value* values) {
+    constexpr int S = sizeof(T), B = S * L::channels, lane = std::max(16, B);
     if constexpr (kWholePixels<L>) {
-        return FromValue<S * L::channels>(value, S * L::colours);
+        return Pattern<B>(values, L::colours);
     } else {
-        T samples[lane / S];
-        for (int i = 0; i < lane / S; ++i) samples[i] = value[i % L::channels];
-        return FromValue<lane>(samples, lane);
+        Value samples[lane / S];
+        for (int i = 0; i < lane / S; ++i) samples[i] = values[i % L::channels];
+        return Pattern<lane>(samples, lane / S);
     }
+}
+template <class L, class T>
+auto pattern(const T* values) {
+    return patternOf<ValuePattern<T>::template Of, T, L>(values);
 }
 
 // op(values..., image) for values that are patterns.
@@ -165,6 +178,11 @@ struct ImageAndValue {
     template <class Op>
     void operator()(const Op& op) const {
         mapPatterns<T, L>(op, b, d, roi, pattern<L>(value));
+    }
+    // op(what `Pattern` makes of other values, b).
+    template <template <int> class Pattern, class Op, class Other>
+    void with(const Op& op, const Other* values) const {
+        mapPatterns<T, L>(op, b, d, roi, patternOf<Pattern, T, L>(values));
     }
     // No constant divisor is 0.
     template <class Op>
