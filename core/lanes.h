@@ -92,7 +92,8 @@ inline Vec<int64_t, sizeof(V)> multiplyEven(V a, V b) {
 #endif
 }
 
-// min(a, b) of 8u, 16u, 16s, 32u, 32s, 32f, 64f; b where a or b is NaN.
+// min(a, b) and max(a, b) of 8u, 16u, 16s, 32u (min), 32s, 8s (max), 32f, 64f. Of floating point it is b where a NaN is
+// involved, and where both are zeros.
 template <class V>
 inline V smaller(V a, V b) {
     if constexpr (kHolds<V, uint8_t>) { KVRI_BY_WIDTH(V, min_epu8, raw(a), raw(b)); }
@@ -109,16 +110,18 @@ inline V smaller(V a, V b) {
 #endif
 }
 
-// max(a, b) of 8s, 16s, 32s, 32f, 64f; b where a or b is NaN.
 template <class V>
 inline V larger(V a, V b) {
-    if constexpr (kHolds<V, int16_t>) { KVRI_BY_WIDTH(V, max_epi16, raw(a), raw(b)); }
+    if constexpr (kHolds<V, uint8_t>) { KVRI_BY_WIDTH(V, max_epu8, raw(a), raw(b)); }
+    else if constexpr (kHolds<V, int16_t>) { KVRI_BY_WIDTH(V, max_epi16, raw(a), raw(b)); }
     else if constexpr (kHolds<V, float>) { KVRI_BY_WIDTH(V, max_ps, raw(a), raw(b)); }
     else if constexpr (kHolds<V, double>) { KVRI_BY_WIDTH(V, max_pd, raw(a), raw(b)); }
 #if defined(__SSE4_1__)
     else if constexpr (kHolds<V, int8_t>) { KVRI_BY_WIDTH(V, max_epi8, raw(a), raw(b)); }
+    else if constexpr (kHolds<V, uint16_t>) { KVRI_BY_WIDTH(V, max_epu16, raw(a), raw(b)); }
     else { KVRI_BY_WIDTH(V, max_epi32, raw(a), raw(b)); }
 #else
+    else if constexpr (kHolds<V, uint16_t>) return b + subSat(a, b);
     else return a > b ? a : b;
 #endif
 }
@@ -163,6 +166,45 @@ inline V operator>>(V v, Shift n) {
     else if constexpr (sizeof(T) == 4) { KVRI_BY_WIDTH(V, srl_epi32, raw(v), n); }
     else { KVRI_BY_WIDTH(V, srl_epi64, raw(v), n); }
 }
+
+// 32s, shifted by a count of its own for each element; to the right with their sign.
+#if defined(__AVX2__)
+template <class V>
+inline V shiftLeft(V v, V counts) {
+    KVRI_BY_WIDTH(V, sllv_epi32, raw(v), raw(counts));
+}
+
+template <class V>
+inline V shiftRight(V v, V counts) {
+    KVRI_BY_WIDTH(V, srav_epi32, raw(v), raw(counts));
+}
+#else
+namespace detail {
+
+// shifted(count) shifts all elements; each keeps what its own count gave.
+template <class V, class F>
+inline V shiftEach(V counts, F shifted) {
+    V r{};
+    unroll<4>([&](auto element) KVRI_INLINE {
+        constexpr int e = element;
+        const V count = shuffle(counts, constant<V>([](int i) { return i < 4 ? 4 * e + i : 128; }));
+        r |= (V)shifted((__m128i)count) & constant<V>([](int i) { return i / 4 == e ? 255 : 0; });
+    });
+    return r;
+}
+
+}  // namespace detail
+
+template <class V>
+inline V shiftLeft(V v, V counts) {
+    return detail::shiftEach(counts, [&](__m128i n) KVRI_INLINE { return _mm_sll_epi32((__m128i)v, n); });
+}
+
+template <class V>
+inline V shiftRight(V v, V counts) {
+    return detail::shiftEach(counts, [&](__m128i n) KVRI_INLINE { return _mm_sra_epi32((__m128i)v, n); });
+}
+#endif
 
 // Element i of each lane becomes element f(i) of it; f captures nothing.
 template <class V, class F>

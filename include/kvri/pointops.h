@@ -793,6 +793,492 @@ KvrStatus kvriExp_32f_C1R(const Kvr32f* pSrc, int srcStep, Kvr32f* pDst, int dst
 KvrStatus kvriExp_32f_C1IR(Kvr32f* pSrcDst, int srcDstStep, KvriSize roiSize);
 KvrStatus kvriExp_32f_C3R(const Kvr32f* pSrc, int srcStep, Kvr32f* pDst, int dstStep, KvriSize roiSize);
 KvrStatus kvriExp_32f_C3IR(Kvr32f* pSrcDst, int srcDstStep, KvriSize roiSize);
+/* And, Or, Xor, AndC, OrC, XorC - bit by bit: pSrc1 op pSrc2; pSrc op pSrcDst in place; pSrc op value.
+ * Pixel by pixel, no neighbourhood. IR works in place. AC4 processes three channels and leaves the destination's fourth as
+ * it is. Constants: C1 the value itself, C3 and AC4 an array of three, C4 of four.
+ * Errors, in this order: null pointer -8 (the array of constants counts), step below 1 -14, width or height below 1 -6. */
+KvrStatus kvriAnd_8u_C1R(const Kvr8u* pSrc1, int src1Step, const Kvr8u* pSrc2, int src2Step, Kvr8u* pDst, int dstStep, KvriSize roiSize);
+KvrStatus kvriAnd_8u_C3R(const Kvr8u* pSrc1, int src1Step, const Kvr8u* pSrc2, int src2Step, Kvr8u* pDst, int dstStep, KvriSize roiSize);
+KvrStatus kvriAnd_8u_C4R(const Kvr8u* pSrc1, int src1Step, const Kvr8u* pSrc2, int src2Step, Kvr8u* pDst, int dstStep, KvriSize roiSize);
+KvrStatus kvriAnd_8u_AC4R(const Kvr8u* pSrc1, int src1Step, const Kvr8u* pSrc2, int src2Step, Kvr8u* pDst, int dstStep, KvriSize roiSize);
+KvrStatus kvriAnd_8u_C1IR(const Kvr8u* pSrc, int srcStep, Kvr8u* pSrcDst, int srcDstStep, KvriSize roiSize);
+KvrStatus kvriAnd_8u_C3IR(const Kvr8u* pSrc, int srcStep, Kvr8u* pSrcDst, int srcDstStep, KvriSize roiSize);
+KvrStatus kvriAnd_8u_C4IR(const Kvr8u* pSrc, int srcStep, Kvr8u* pSrcDst, int srcDstStep, KvriSize roiSize);
+KvrStatus kvriAnd_8u_AC4IR(const Kvr8u* pSrc, int srcStep, Kvr8u* pSrcDst, int srcDstStep, KvriSize roiSize);
+KvrStatus kvriAnd_16u_C1R(const Kvr16u* pSrc1, int src1Step, const Kvr16u* pSrc2, int src2Step, Kvr16u* pDst, int dstStep, KvriSize roiSize);
+KvrStatus kvriAnd_16u_C3R(const Kvr16u* pSrc1, int src1Step, const Kvr16u* pSrc2, int src2Step, Kvr16u* pDst, int dstStep, KvriSize roiSize);
+KvrStatus kvriAnd_16u_C4R(const Kvr16u* pSrc1, int src1Step, const Kvr16u* pSrc2, int src2Step, Kvr16u* pDst, int dstStep, KvriSize roiSize);
+KvrStatus kvriAnd_16u_AC4R(const Kvr16u* pSrc1, int src1Step, const Kvr16u* pSrc2, int src2Step, Kvr16u* pDst, int dstStep, KvriSize roiSize);
+KvrStatus kvriAnd_16u_C1IR(const Kvr16u* pSrc, int srcStep, Kvr16u* pSrcDst, int srcDstStep, KvriSize roiSize);
+KvrStatus kvriAnd_16u_C3IR(const Kvr16u* pSrc, int srcStep, Kvr16u* pSrcDst, int srcDstStep, KvriSize roiSize);
+KvrStatus kvriAnd_16u_C4IR(const Kvr16u* pSrc, int srcStep, Kvr16u* pSrcDst, int srcDstStep, KvriSize roiSize);
+KvrStatus kvriAnd_16u_AC4IR(const Kvr16u* pSrc, int srcStep, Kvr16u* pSrcDst, int srcDstStep, KvriSize roiSize);
+KvrStatus kvriAnd_32s_C1R(const Kvr32s* pSrc1, int src1Step, const Kvr32s* pSrc2, int src2Step, Kvr32s* pDst, int dstStep, KvriSize roiSize);
+KvrStatus kvriAnd_32s_C3R(const Kvr32s* pSrc1, int src1Step, const Kvr32s* pSrc2, int src2Step, Kvr32s* pDst, int dstStep, KvriSize roiSize);
+KvrStatus kvriAnd_32s_C4R(const Kvr32s* pSrc1, int src1Step, const Kvr32s* pSrc2, int src2Step, Kvr32s* pDst, int dstStep, KvriSize roiSize);
+KvrStatus kvriAnd_32s_AC4R(const Kvr32s* pSrc1, int src1Step, const Kvr32s* pSrc2, int src2Step, Kvr32s* pDst, int dstStep, KvriSize roiSize);
+KvrStatus kvriAnd_32s_C1IR(const Kvr32s* pSrc, int srcStep, Kvr32s* pSrcDst, int srcDstStep, KvriSize roiSize);
+KvrStatus kvriAnd_32s_C3IR(const Kvr32s* pSrc, int srcStep, Kvr32s* pSrcDst, int srcDstStep, KvriSize roiSize);
+KvrStatus kvriAnd_32s_C4IR(const Kvr32s* pSrc, int srcStep, Kvr32s* pSrcDst, int srcDstStep, KvriSize roiSize);
+KvrStatus kvriAnd_32s_AC4IR(const Kvr32s* pSrc, int srcStep, Kvr32s* pSrcDst, int srcDstStep, KvriSize roiSize);
+KvrStatus kvriAndC_8u_C1R(const Kvr8u* pSrc, int srcStep, Kvr8u value, Kvr8u* pDst, int dstStep, KvriSize roiSize);
+KvrStatus kvriAndC_8u_C3R(const Kvr8u* pSrc, int srcStep, const Kvr8u value[3], Kvr8u* pDst, int dstStep, KvriSize roiSize);
+KvrStatus kvriAndC_8u_C4R(const Kvr8u* pSrc, int srcStep, const Kvr8u value[4], Kvr8u* pDst, int dstStep, KvriSize roiSize);
+KvrStatus kvriAndC_8u_AC4R(const Kvr8u* pSrc, int srcStep, const Kvr8u value[3], Kvr8u* pDst, int dstStep, KvriSize roiSize);
+KvrStatus kvriAndC_8u_C1IR(Kvr8u value, Kvr8u* pSrcDst, int srcDstStep, KvriSize roiSize);
+KvrStatus kvriAndC_8u_C3IR(const Kvr8u value[3], Kvr8u* pSrcDst, int srcDstStep, KvriSize roiSize);
+KvrStatus kvriAndC_8u_C4IR(const Kvr8u value[4], Kvr8u* pSrcDst, int srcDstStep, KvriSize roiSize);
+KvrStatus kvriAndC_8u_AC4IR(const Kvr8u value[3], Kvr8u* pSrcDst, int srcDstStep, KvriSize roiSize);
+KvrStatus kvriAndC_16u_C1R(const Kvr16u* pSrc, int srcStep, Kvr16u value, Kvr16u* pDst, int dstStep, KvriSize roiSize);
+KvrStatus kvriAndC_16u_C3R(const Kvr16u* pSrc, int srcStep, const Kvr16u value[3], Kvr16u* pDst, int dstStep, KvriSize roiSize);
+KvrStatus kvriAndC_16u_C4R(const Kvr16u* pSrc, int srcStep, const Kvr16u value[4], Kvr16u* pDst, int dstStep, KvriSize roiSize);
+KvrStatus kvriAndC_16u_AC4R(const Kvr16u* pSrc, int srcStep, const Kvr16u value[3], Kvr16u* pDst, int dstStep, KvriSize roiSize);
+KvrStatus kvriAndC_16u_C1IR(Kvr16u value, Kvr16u* pSrcDst, int srcDstStep, KvriSize roiSize);
+KvrStatus kvriAndC_16u_C3IR(const Kvr16u value[3], Kvr16u* pSrcDst, int srcDstStep, KvriSize roiSize);
+KvrStatus kvriAndC_16u_C4IR(const Kvr16u value[4], Kvr16u* pSrcDst, int srcDstStep, KvriSize roiSize);
+KvrStatus kvriAndC_16u_AC4IR(const Kvr16u value[3], Kvr16u* pSrcDst, int srcDstStep, KvriSize roiSize);
+KvrStatus kvriAndC_32s_C1R(const Kvr32s* pSrc, int srcStep, Kvr32s value, Kvr32s* pDst, int dstStep, KvriSize roiSize);
+KvrStatus kvriAndC_32s_C3R(const Kvr32s* pSrc, int srcStep, const Kvr32s value[3], Kvr32s* pDst, int dstStep, KvriSize roiSize);
+KvrStatus kvriAndC_32s_C4R(const Kvr32s* pSrc, int srcStep, const Kvr32s value[4], Kvr32s* pDst, int dstStep, KvriSize roiSize);
+KvrStatus kvriAndC_32s_AC4R(const Kvr32s* pSrc, int srcStep, const Kvr32s value[3], Kvr32s* pDst, int dstStep, KvriSize roiSize);
+KvrStatus kvriAndC_32s_C1IR(Kvr32s value, Kvr32s* pSrcDst, int srcDstStep, KvriSize roiSize);
+KvrStatus kvriAndC_32s_C3IR(const Kvr32s value[3], Kvr32s* pSrcDst, int srcDstStep, KvriSize roiSize);
+KvrStatus kvriAndC_32s_C4IR(const Kvr32s value[4], Kvr32s* pSrcDst, int srcDstStep, KvriSize roiSize);
+KvrStatus kvriAndC_32s_AC4IR(const Kvr32s value[3], Kvr32s* pSrcDst, int srcDstStep, KvriSize roiSize);
+KvrStatus kvriOr_8u_C1R(const Kvr8u* pSrc1, int src1Step, const Kvr8u* pSrc2, int src2Step, Kvr8u* pDst, int dstStep, KvriSize roiSize);
+KvrStatus kvriOr_8u_C3R(const Kvr8u* pSrc1, int src1Step, const Kvr8u* pSrc2, int src2Step, Kvr8u* pDst, int dstStep, KvriSize roiSize);
+KvrStatus kvriOr_8u_C4R(const Kvr8u* pSrc1, int src1Step, const Kvr8u* pSrc2, int src2Step, Kvr8u* pDst, int dstStep, KvriSize roiSize);
+KvrStatus kvriOr_8u_AC4R(const Kvr8u* pSrc1, int src1Step, const Kvr8u* pSrc2, int src2Step, Kvr8u* pDst, int dstStep, KvriSize roiSize);
+KvrStatus kvriOr_8u_C1IR(const Kvr8u* pSrc, int srcStep, Kvr8u* pSrcDst, int srcDstStep, KvriSize roiSize);
+KvrStatus kvriOr_8u_C3IR(const Kvr8u* pSrc, int srcStep, Kvr8u* pSrcDst, int srcDstStep, KvriSize roiSize);
+KvrStatus kvriOr_8u_C4IR(const Kvr8u* pSrc, int srcStep, Kvr8u* pSrcDst, int srcDstStep, KvriSize roiSize);
+KvrStatus kvriOr_8u_AC4IR(const Kvr8u* pSrc, int srcStep, Kvr8u* pSrcDst, int srcDstStep, KvriSize roiSize);
+KvrStatus kvriOr_16u_C1R(const Kvr16u* pSrc1, int src1Step, const Kvr16u* pSrc2, int src2Step, Kvr16u* pDst, int dstStep, KvriSize roiSize);
+KvrStatus kvriOr_16u_C3R(const Kvr16u* pSrc1, int src1Step, const Kvr16u* pSrc2, int src2Step, Kvr16u* pDst, int dstStep, KvriSize roiSize);
+KvrStatus kvriOr_16u_C4R(const Kvr16u* pSrc1, int src1Step, const Kvr16u* pSrc2, int src2Step, Kvr16u* pDst, int dstStep, KvriSize roiSize);
+KvrStatus kvriOr_16u_AC4R(const Kvr16u* pSrc1, int src1Step, const Kvr16u* pSrc2, int src2Step, Kvr16u* pDst, int dstStep, KvriSize roiSize);
+KvrStatus kvriOr_16u_C1IR(const Kvr16u* pSrc, int srcStep, Kvr16u* pSrcDst, int srcDstStep, KvriSize roiSize);
+KvrStatus kvriOr_16u_C3IR(const Kvr16u* pSrc, int srcStep, Kvr16u* pSrcDst, int srcDstStep, KvriSize roiSize);
+KvrStatus kvriOr_16u_C4IR(const Kvr16u* pSrc, int srcStep, Kvr16u* pSrcDst, int srcDstStep, KvriSize roiSize);
+KvrStatus kvriOr_16u_AC4IR(const Kvr16u* pSrc, int srcStep, Kvr16u* pSrcDst, int srcDstStep, KvriSize roiSize);
+KvrStatus kvriOr_32s_C1R(const Kvr32s* pSrc1, int src1Step, const Kvr32s* pSrc2, int src2Step, Kvr32s* pDst, int dstStep, KvriSize roiSize);
+KvrStatus kvriOr_32s_C3R(const Kvr32s* pSrc1, int src1Step, const Kvr32s* pSrc2, int src2Step, Kvr32s* pDst, int dstStep, KvriSize roiSize);
+KvrStatus kvriOr_32s_C4R(const Kvr32s* pSrc1, int src1Step, const Kvr32s* pSrc2, int src2Step, Kvr32s* pDst, int dstStep, KvriSize roiSize);
+KvrStatus kvriOr_32s_AC4R(const Kvr32s* pSrc1, int src1Step, const Kvr32s* pSrc2, int src2Step, Kvr32s* pDst, int dstStep, KvriSize roiSize);
+KvrStatus kvriOr_32s_C1IR(const Kvr32s* pSrc, int srcStep, Kvr32s* pSrcDst, int srcDstStep, KvriSize roiSize);
+KvrStatus kvriOr_32s_C3IR(const Kvr32s* pSrc, int srcStep, Kvr32s* pSrcDst, int srcDstStep, KvriSize roiSize);
+KvrStatus kvriOr_32s_C4IR(const Kvr32s* pSrc, int srcStep, Kvr32s* pSrcDst, int srcDstStep, KvriSize roiSize);
+KvrStatus kvriOr_32s_AC4IR(const Kvr32s* pSrc, int srcStep, Kvr32s* pSrcDst, int srcDstStep, KvriSize roiSize);
+KvrStatus kvriOrC_8u_C1R(const Kvr8u* pSrc, int srcStep, Kvr8u value, Kvr8u* pDst, int dstStep, KvriSize roiSize);
+KvrStatus kvriOrC_8u_C3R(const Kvr8u* pSrc, int srcStep, const Kvr8u value[3], Kvr8u* pDst, int dstStep, KvriSize roiSize);
+KvrStatus kvriOrC_8u_C4R(const Kvr8u* pSrc, int srcStep, const Kvr8u value[4], Kvr8u* pDst, int dstStep, KvriSize roiSize);
+KvrStatus kvriOrC_8u_AC4R(const Kvr8u* pSrc, int srcStep, const Kvr8u value[3], Kvr8u* pDst, int dstStep, KvriSize roiSize);
+KvrStatus kvriOrC_8u_C1IR(Kvr8u value, Kvr8u* pSrcDst, int srcDstStep, KvriSize roiSize);
+KvrStatus kvriOrC_8u_C3IR(const Kvr8u value[3], Kvr8u* pSrcDst, int srcDstStep, KvriSize roiSize);
+KvrStatus kvriOrC_8u_C4IR(const Kvr8u value[4], Kvr8u* pSrcDst, int srcDstStep, KvriSize roiSize);
+KvrStatus kvriOrC_8u_AC4IR(const Kvr8u value[3], Kvr8u* pSrcDst, int srcDstStep, KvriSize roiSize);
+KvrStatus kvriOrC_16u_C1R(const Kvr16u* pSrc, int srcStep, Kvr16u value, Kvr16u* pDst, int dstStep, KvriSize roiSize);
+KvrStatus kvriOrC_16u_C3R(const Kvr16u* pSrc, int srcStep, const Kvr16u value[3], Kvr16u* pDst, int dstStep, KvriSize roiSize);
+KvrStatus kvriOrC_16u_C4R(const Kvr16u* pSrc, int srcStep, const Kvr16u value[4], Kvr16u* pDst, int dstStep, KvriSize roiSize);
+KvrStatus kvriOrC_16u_AC4R(const Kvr16u* pSrc, int srcStep, const Kvr16u value[3], Kvr16u* pDst, int dstStep, KvriSize roiSize);
+KvrStatus kvriOrC_16u_C1IR(Kvr16u value, Kvr16u* pSrcDst, int srcDstStep, KvriSize roiSize);
+KvrStatus kvriOrC_16u_C3IR(const Kvr16u value[3], Kvr16u* pSrcDst, int srcDstStep, KvriSize roiSize);
+KvrStatus kvriOrC_16u_C4IR(const Kvr16u value[4], Kvr16u* pSrcDst, int srcDstStep, KvriSize roiSize);
+KvrStatus kvriOrC_16u_AC4IR(const Kvr16u value[3], Kvr16u* pSrcDst, int srcDstStep, KvriSize roiSize);
+KvrStatus kvriOrC_32s_C1R(const Kvr32s* pSrc, int srcStep, Kvr32s value, Kvr32s* pDst, int dstStep, KvriSize roiSize);
+KvrStatus kvriOrC_32s_C3R(const Kvr32s* pSrc, int srcStep, const Kvr32s value[3], Kvr32s* pDst, int dstStep, KvriSize roiSize);
+KvrStatus kvriOrC_32s_C4R(const Kvr32s* pSrc, int srcStep, const Kvr32s value[4], Kvr32s* pDst, int dstStep, KvriSize roiSize);
+KvrStatus kvriOrC_32s_AC4R(const Kvr32s* pSrc, int srcStep, const Kvr32s value[3], Kvr32s* pDst, int dstStep, KvriSize roiSize);
+KvrStatus kvriOrC_32s_C1IR(Kvr32s value, Kvr32s* pSrcDst, int srcDstStep, KvriSize roiSize);
+KvrStatus kvriOrC_32s_C3IR(const Kvr32s value[3], Kvr32s* pSrcDst, int srcDstStep, KvriSize roiSize);
+KvrStatus kvriOrC_32s_C4IR(const Kvr32s value[4], Kvr32s* pSrcDst, int srcDstStep, KvriSize roiSize);
+KvrStatus kvriOrC_32s_AC4IR(const Kvr32s value[3], Kvr32s* pSrcDst, int srcDstStep, KvriSize roiSize);
+KvrStatus kvriXor_8u_C1R(const Kvr8u* pSrc1, int src1Step, const Kvr8u* pSrc2, int src2Step, Kvr8u* pDst, int dstStep, KvriSize roiSize);
+KvrStatus kvriXor_8u_C3R(const Kvr8u* pSrc1, int src1Step, const Kvr8u* pSrc2, int src2Step, Kvr8u* pDst, int dstStep, KvriSize roiSize);
+KvrStatus kvriXor_8u_C4R(const Kvr8u* pSrc1, int src1Step, const Kvr8u* pSrc2, int src2Step, Kvr8u* pDst, int dstStep, KvriSize roiSize);
+KvrStatus kvriXor_8u_AC4R(const Kvr8u* pSrc1, int src1Step, const Kvr8u* pSrc2, int src2Step, Kvr8u* pDst, int dstStep, KvriSize roiSize);
+KvrStatus kvriXor_8u_C1IR(const Kvr8u* pSrc, int srcStep, Kvr8u* pSrcDst, int srcDstStep, KvriSize roiSize);
+KvrStatus kvriXor_8u_C3IR(const Kvr8u* pSrc, int srcStep, Kvr8u* pSrcDst, int srcDstStep, KvriSize roiSize);
+KvrStatus kvriXor_8u_C4IR(const Kvr8u* pSrc, int srcStep, Kvr8u* pSrcDst, int srcDstStep, KvriSize roiSize);
+KvrStatus kvriXor_8u_AC4IR(const Kvr8u* pSrc, int srcStep, Kvr8u* pSrcDst, int srcDstStep, KvriSize roiSize);
+KvrStatus kvriXor_16u_C1R(const Kvr16u* pSrc1, int src1Step, const Kvr16u* pSrc2, int src2Step, Kvr16u* pDst, int dstStep, KvriSize roiSize);
+KvrStatus kvriXor_16u_C3R(const Kvr16u* pSrc1, int src1Step, const Kvr16u* pSrc2, int src2Step, Kvr16u* pDst, int dstStep, KvriSize roiSize);
+KvrStatus kvriXor_16u_C4R(const Kvr16u* pSrc1, int src1Step, const Kvr16u* pSrc2, int src2Step, Kvr16u* pDst, int dstStep, KvriSize roiSize);
+KvrStatus kvriXor_16u_AC4R(const Kvr16u* pSrc1, int src1Step, const Kvr16u* pSrc2, int src2Step, Kvr16u* pDst, int dstStep, KvriSize roiSize);
+KvrStatus kvriXor_16u_C1IR(const Kvr16u* pSrc, int srcStep, Kvr16u* pSrcDst, int srcDstStep, KvriSize roiSize);
+KvrStatus kvriXor_16u_C3IR(const Kvr16u* pSrc, int srcStep, Kvr16u* pSrcDst, int srcDstStep, KvriSize roiSize);
+KvrStatus kvriXor_16u_C4IR(const Kvr16u* pSrc, int srcStep, Kvr16u* pSrcDst, int srcDstStep, KvriSize roiSize);
+KvrStatus kvriXor_16u_AC4IR(const Kvr16u* pSrc, int srcStep, Kvr16u* pSrcDst, int srcDstStep, KvriSize roiSize);
+KvrStatus kvriXor_32s_C1R(const Kvr32s* pSrc1, int src1Step, const Kvr32s* pSrc2, int src2Step, Kvr32s* pDst, int dstStep, KvriSize roiSize);
+KvrStatus kvriXor_32s_C3R(const Kvr32s* pSrc1, int src1Step, const Kvr32s* pSrc2, int src2Step, Kvr32s* pDst, int dstStep, KvriSize roiSize);
+KvrStatus kvriXor_32s_C4R(const Kvr32s* pSrc1, int src1Step, const Kvr32s* pSrc2, int src2Step, Kvr32s* pDst, int dstStep, KvriSize roiSize);
+KvrStatus kvriXor_32s_AC4R(const Kvr32s* pSrc1, int src1Step, const Kvr32s* pSrc2, int src2Step, Kvr32s* pDst, int dstStep, KvriSize roiSize);
+KvrStatus kvriXor_32s_C1IR(const Kvr32s* pSrc, int srcStep, Kvr32s* pSrcDst, int srcDstStep, KvriSize roiSize);
+KvrStatus kvriXor_32s_C3IR(const Kvr32s* pSrc, int srcStep, Kvr32s* pSrcDst, int srcDstStep, KvriSize roiSize);
+KvrStatus kvriXor_32s_C4IR(const Kvr32s* pSrc, int srcStep, Kvr32s* pSrcDst, int srcDstStep, KvriSize roiSize);
+KvrStatus kvriXor_32s_AC4IR(const Kvr32s* pSrc, int srcStep, Kvr32s* pSrcDst, int srcDstStep, KvriSize roiSize);
+KvrStatus kvriXorC_8u_C1R(const Kvr8u* pSrc, int srcStep, Kvr8u value, Kvr8u* pDst, int dstStep, KvriSize roiSize);
+KvrStatus kvriXorC_8u_C3R(const Kvr8u* pSrc, int srcStep, const Kvr8u value[3], Kvr8u* pDst, int dstStep, KvriSize roiSize);
+KvrStatus kvriXorC_8u_C4R(const Kvr8u* pSrc, int srcStep, const Kvr8u value[4], Kvr8u* pDst, int dstStep, KvriSize roiSize);
+KvrStatus kvriXorC_8u_AC4R(const Kvr8u* pSrc, int srcStep, const Kvr8u value[3], Kvr8u* pDst, int dstStep, KvriSize roiSize);
+KvrStatus kvriXorC_8u_C1IR(Kvr8u value, Kvr8u* pSrcDst, int srcDstStep, KvriSize roiSize);
+KvrStatus kvriXorC_8u_C3IR(const Kvr8u value[3], Kvr8u* pSrcDst, int srcDstStep, KvriSize roiSize);
+KvrStatus kvriXorC_8u_C4IR(const Kvr8u value[4], Kvr8u* pSrcDst, int srcDstStep, KvriSize roiSize);
+KvrStatus kvriXorC_8u_AC4IR(const Kvr8u value[3], Kvr8u* pSrcDst, int srcDstStep, KvriSize roiSize);
+KvrStatus kvriXorC_16u_C1R(const Kvr16u* pSrc, int srcStep, Kvr16u value, Kvr16u* pDst, int dstStep, KvriSize roiSize);
+KvrStatus kvriXorC_16u_C3R(const Kvr16u* pSrc, int srcStep, const Kvr16u value[3], Kvr16u* pDst, int dstStep, KvriSize roiSize);
+KvrStatus kvriXorC_16u_C4R(const Kvr16u* pSrc, int srcStep, const Kvr16u value[4], Kvr16u* pDst, int dstStep, KvriSize roiSize);
+KvrStatus kvriXorC_16u_AC4R(const Kvr16u* pSrc, int srcStep, const Kvr16u value[3], Kvr16u* pDst, int dstStep, KvriSize roiSize);
+KvrStatus kvriXorC_16u_C1IR(Kvr16u value, Kvr16u* pSrcDst, int srcDstStep, KvriSize roiSize);
+KvrStatus kvriXorC_16u_C3IR(const Kvr16u value[3], Kvr16u* pSrcDst, int srcDstStep, KvriSize roiSize);
+KvrStatus kvriXorC_16u_C4IR(const Kvr16u value[4], Kvr16u* pSrcDst, int srcDstStep, KvriSize roiSize);
+KvrStatus kvriXorC_16u_AC4IR(const Kvr16u value[3], Kvr16u* pSrcDst, int srcDstStep, KvriSize roiSize);
+KvrStatus kvriXorC_32s_C1R(const Kvr32s* pSrc, int srcStep, Kvr32s value, Kvr32s* pDst, int dstStep, KvriSize roiSize);
+KvrStatus kvriXorC_32s_C3R(const Kvr32s* pSrc, int srcStep, const Kvr32s value[3], Kvr32s* pDst, int dstStep, KvriSize roiSize);
+KvrStatus kvriXorC_32s_C4R(const Kvr32s* pSrc, int srcStep, const Kvr32s value[4], Kvr32s* pDst, int dstStep, KvriSize roiSize);
+KvrStatus kvriXorC_32s_AC4R(const Kvr32s* pSrc, int srcStep, const Kvr32s value[3], Kvr32s* pDst, int dstStep, KvriSize roiSize);
+KvrStatus kvriXorC_32s_C1IR(Kvr32s value, Kvr32s* pSrcDst, int srcDstStep, KvriSize roiSize);
+KvrStatus kvriXorC_32s_C3IR(const Kvr32s value[3], Kvr32s* pSrcDst, int srcDstStep, KvriSize roiSize);
+KvrStatus kvriXorC_32s_C4IR(const Kvr32s value[4], Kvr32s* pSrcDst, int srcDstStep, KvriSize roiSize);
+KvrStatus kvriXorC_32s_AC4IR(const Kvr32s value[3], Kvr32s* pSrcDst, int srcDstStep, KvriSize roiSize);
+
+/* Not - every bit inverted. Layouts and errors as for And. */
+KvrStatus kvriNot_8u_C1R(const Kvr8u* pSrc, int srcStep, Kvr8u* pDst, int dstStep, KvriSize roiSize);
+KvrStatus kvriNot_8u_C3R(const Kvr8u* pSrc, int srcStep, Kvr8u* pDst, int dstStep, KvriSize roiSize);
+KvrStatus kvriNot_8u_C4R(const Kvr8u* pSrc, int srcStep, Kvr8u* pDst, int dstStep, KvriSize roiSize);
+KvrStatus kvriNot_8u_AC4R(const Kvr8u* pSrc, int srcStep, Kvr8u* pDst, int dstStep, KvriSize roiSize);
+KvrStatus kvriNot_8u_C1IR(Kvr8u* pSrcDst, int srcDstStep, KvriSize roiSize);
+KvrStatus kvriNot_8u_C3IR(Kvr8u* pSrcDst, int srcDstStep, KvriSize roiSize);
+KvrStatus kvriNot_8u_C4IR(Kvr8u* pSrcDst, int srcDstStep, KvriSize roiSize);
+KvrStatus kvriNot_8u_AC4IR(Kvr8u* pSrcDst, int srcDstStep, KvriSize roiSize);
+
+/* LShiftC, RShiftC - every sample shifted by a number of bits, for several channels by one number each; bits that leave the
+ * sample are lost. To the right, signed samples are shifted arithmetically: the sign fills what becomes free. Every 32-bit
+ * count is accepted: one of the sample's width or more leaves 0, or the sign (0 or -1) of a signed sample shifted right.
+ * Layouts, constants and errors as for And. */
+KvrStatus kvriLShiftC_8u_C1R(const Kvr8u* pSrc, int srcStep, Kvr32u value, Kvr8u* pDst, int dstStep, KvriSize roiSize);
+KvrStatus kvriLShiftC_8u_C3R(const Kvr8u* pSrc, int srcStep, const Kvr32u value[3], Kvr8u* pDst, int dstStep, KvriSize roiSize);
+KvrStatus kvriLShiftC_8u_C4R(const Kvr8u* pSrc, int srcStep, const Kvr32u value[4], Kvr8u* pDst, int dstStep, KvriSize roiSize);
+KvrStatus kvriLShiftC_8u_AC4R(const Kvr8u* pSrc, int srcStep, const Kvr32u value[3], Kvr8u* pDst, int dstStep, KvriSize roiSize);
+KvrStatus kvriLShiftC_8u_C1IR(Kvr32u value, Kvr8u* pSrcDst, int srcDstStep, KvriSize roiSize);
+KvrStatus kvriLShiftC_8u_C3IR(const Kvr32u value[3], Kvr8u* pSrcDst, int srcDstStep, KvriSize roiSize);
+KvrStatus kvriLShiftC_8u_C4IR(const Kvr32u value[4], Kvr8u* pSrcDst, int srcDstStep, KvriSize roiSize);
+KvrStatus kvriLShiftC_8u_AC4IR(const Kvr32u value[3], Kvr8u* pSrcDst, int srcDstStep, KvriSize roiSize);
+KvrStatus kvriLShiftC_16u_C1R(const Kvr16u* pSrc, int srcStep, Kvr32u value, Kvr16u* pDst, int dstStep, KvriSize roiSize);
+KvrStatus kvriLShiftC_16u_C3R(const Kvr16u* pSrc, int srcStep, const Kvr32u value[3], Kvr16u* pDst, int dstStep, KvriSize roiSize);
+KvrStatus kvriLShiftC_16u_C4R(const Kvr16u* pSrc, int srcStep, const Kvr32u value[4], Kvr16u* pDst, int dstStep, KvriSize roiSize);
+KvrStatus kvriLShiftC_16u_AC4R(const Kvr16u* pSrc, int srcStep, const Kvr32u value[3], Kvr16u* pDst, int dstStep, KvriSize roiSize);
+KvrStatus kvriLShiftC_16u_C1IR(Kvr32u value, Kvr16u* pSrcDst, int srcDstStep, KvriSize roiSize);
+KvrStatus kvriLShiftC_16u_C3IR(const Kvr32u value[3], Kvr16u* pSrcDst, int srcDstStep, KvriSize roiSize);
+KvrStatus kvriLShiftC_16u_C4IR(const Kvr32u value[4], Kvr16u* pSrcDst, int srcDstStep, KvriSize roiSize);
+KvrStatus kvriLShiftC_16u_AC4IR(const Kvr32u value[3], Kvr16u* pSrcDst, int srcDstStep, KvriSize roiSize);
+KvrStatus kvriLShiftC_32s_C1R(const Kvr32s* pSrc, int srcStep, Kvr32u value, Kvr32s* pDst, int dstStep, KvriSize roiSize);
+KvrStatus kvriLShiftC_32s_C3R(const Kvr32s* pSrc, int srcStep, const Kvr32u value[3], Kvr32s* pDst, int dstStep, KvriSize roiSize);
+KvrStatus kvriLShiftC_32s_C4R(const Kvr32s* pSrc, int srcStep, const Kvr32u value[4], Kvr32s* pDst, int dstStep, KvriSize roiSize);
+KvrStatus kvriLShiftC_32s_AC4R(const Kvr32s* pSrc, int srcStep, const Kvr32u value[3], Kvr32s* pDst, int dstStep, KvriSize roiSize);
+KvrStatus kvriLShiftC_32s_C1IR(Kvr32u value, Kvr32s* pSrcDst, int srcDstStep, KvriSize roiSize);
+KvrStatus kvriLShiftC_32s_C3IR(const Kvr32u value[3], Kvr32s* pSrcDst, int srcDstStep, KvriSize roiSize);
+KvrStatus kvriLShiftC_32s_C4IR(const Kvr32u value[4], Kvr32s* pSrcDst, int srcDstStep, KvriSize roiSize);
+KvrStatus kvriLShiftC_32s_AC4IR(const Kvr32u value[3], Kvr32s* pSrcDst, int srcDstStep, KvriSize roiSize);
+KvrStatus kvriRShiftC_8u_C1R(const Kvr8u* pSrc, int srcStep, Kvr32u value, Kvr8u* pDst, int dstStep, KvriSize roiSize);
+KvrStatus kvriRShiftC_8u_C3R(const Kvr8u* pSrc, int srcStep, const Kvr32u value[3], Kvr8u* pDst, int dstStep, KvriSize roiSize);
+KvrStatus kvriRShiftC_8u_C4R(const Kvr8u* pSrc, int srcStep, const Kvr32u value[4], Kvr8u* pDst, int dstStep, KvriSize roiSize);
+KvrStatus kvriRShiftC_8u_AC4R(const Kvr8u* pSrc, int srcStep, const Kvr32u value[3], Kvr8u* pDst, int dstStep, KvriSize roiSize);
+KvrStatus kvriRShiftC_8u_C1IR(Kvr32u value, Kvr8u* pSrcDst, int srcDstStep, KvriSize roiSize);
+KvrStatus kvriRShiftC_8u_C3IR(const Kvr32u value[3], Kvr8u* pSrcDst, int srcDstStep, KvriSize roiSize);
+KvrStatus kvriRShiftC_8u_C4IR(const Kvr32u value[4], Kvr8u* pSrcDst, int srcDstStep, KvriSize roiSize);
+KvrStatus kvriRShiftC_8u_AC4IR(const Kvr32u value[3], Kvr8u* pSrcDst, int srcDstStep, KvriSize roiSize);
+KvrStatus kvriRShiftC_8s_C1R(const Kvr8s* pSrc, int srcStep, Kvr32u value, Kvr8s* pDst, int dstStep, KvriSize roiSize);
+KvrStatus kvriRShiftC_8s_C3R(const Kvr8s* pSrc, int srcStep, const Kvr32u value[3], Kvr8s* pDst, int dstStep, KvriSize roiSize);
+KvrStatus kvriRShiftC_8s_C4R(const Kvr8s* pSrc, int srcStep, const Kvr32u value[4], Kvr8s* pDst, int dstStep, KvriSize roiSize);
+KvrStatus kvriRShiftC_8s_AC4R(const Kvr8s* pSrc, int srcStep, const Kvr32u value[3], Kvr8s* pDst, int dstStep, KvriSize roiSize);
+KvrStatus kvriRShiftC_8s_C1IR(Kvr32u value, Kvr8s* pSrcDst, int srcDstStep, KvriSize roiSize);
+KvrStatus kvriRShiftC_8s_C3IR(const Kvr32u value[3], Kvr8s* pSrcDst, int srcDstStep, KvriSize roiSize);
+KvrStatus kvriRShiftC_8s_C4IR(const Kvr32u value[4], Kvr8s* pSrcDst, int srcDstStep, KvriSize roiSize);
+KvrStatus kvriRShiftC_8s_AC4IR(const Kvr32u value[3], Kvr8s* pSrcDst, int srcDstStep, KvriSize roiSize);
+KvrStatus kvriRShiftC_16u_C1R(const Kvr16u* pSrc, int srcStep, Kvr32u value, Kvr16u* pDst, int dstStep, KvriSize roiSize);
+KvrStatus kvriRShiftC_16u_C3R(const Kvr16u* pSrc, int srcStep, const Kvr32u value[3], Kvr16u* pDst, int dstStep, KvriSize roiSize);
+KvrStatus kvriRShiftC_16u_C4R(const Kvr16u* pSrc, int srcStep, const Kvr32u value[4], Kvr16u* pDst, int dstStep, KvriSize roiSize);
+KvrStatus kvriRShiftC_16u_AC4R(const Kvr16u* pSrc, int srcStep, const Kvr32u value[3], Kvr16u* pDst, int dstStep, KvriSize roiSize);
+KvrStatus kvriRShiftC_16u_C1IR(Kvr32u value, Kvr16u* pSrcDst, int srcDstStep, KvriSize roiSize);
+KvrStatus kvriRShiftC_16u_C3IR(const Kvr32u value[3], Kvr16u* pSrcDst, int srcDstStep, KvriSize roiSize);
+KvrStatus kvriRShiftC_16u_C4IR(const Kvr32u value[4], Kvr16u* pSrcDst, int srcDstStep, KvriSize roiSize);
+KvrStatus kvriRShiftC_16u_AC4IR(const Kvr32u value[3], Kvr16u* pSrcDst, int srcDstStep, KvriSize roiSize);
+KvrStatus kvriRShiftC_16s_C1R(const Kvr16s* pSrc, int srcStep, Kvr32u value, Kvr16s* pDst, int dstStep, KvriSize roiSize);
+KvrStatus kvriRShiftC_16s_C3R(const Kvr16s* pSrc, int srcStep, const Kvr32u value[3], Kvr16s* pDst, int dstStep, KvriSize roiSize);
+KvrStatus kvriRShiftC_16s_C4R(const Kvr16s* pSrc, int srcStep, const Kvr32u value[4], Kvr16s* pDst, int dstStep, KvriSize roiSize);
+KvrStatus kvriRShiftC_16s_AC4R(const Kvr16s* pSrc, int srcStep, const Kvr32u value[3], Kvr16s* pDst, int dstStep, KvriSize roiSize);
+KvrStatus kvriRShiftC_16s_C1IR(Kvr32u value, Kvr16s* pSrcDst, int srcDstStep, KvriSize roiSize);
+KvrStatus kvriRShiftC_16s_C3IR(const Kvr32u value[3], Kvr16s* pSrcDst, int srcDstStep, KvriSize roiSize);
+KvrStatus kvriRShiftC_16s_C4IR(const Kvr32u value[4], Kvr16s* pSrcDst, int srcDstStep, KvriSize roiSize);
+KvrStatus kvriRShiftC_16s_AC4IR(const Kvr32u value[3], Kvr16s* pSrcDst, int srcDstStep, KvriSize roiSize);
+KvrStatus kvriRShiftC_32s_C1R(const Kvr32s* pSrc, int srcStep, Kvr32u value, Kvr32s* pDst, int dstStep, KvriSize roiSize);
+KvrStatus kvriRShiftC_32s_C3R(const Kvr32s* pSrc, int srcStep, const Kvr32u value[3], Kvr32s* pDst, int dstStep, KvriSize roiSize);
+KvrStatus kvriRShiftC_32s_C4R(const Kvr32s* pSrc, int srcStep, const Kvr32u value[4], Kvr32s* pDst, int dstStep, KvriSize roiSize);
+KvrStatus kvriRShiftC_32s_AC4R(const Kvr32s* pSrc, int srcStep, const Kvr32u value[3], Kvr32s* pDst, int dstStep, KvriSize roiSize);
+KvrStatus kvriRShiftC_32s_C1IR(Kvr32u value, Kvr32s* pSrcDst, int srcDstStep, KvriSize roiSize);
+KvrStatus kvriRShiftC_32s_C3IR(const Kvr32u value[3], Kvr32s* pSrcDst, int srcDstStep, KvriSize roiSize);
+KvrStatus kvriRShiftC_32s_C4IR(const Kvr32u value[4], Kvr32s* pSrcDst, int srcDstStep, KvriSize roiSize);
+KvrStatus kvriRShiftC_32s_AC4IR(const Kvr32u value[3], Kvr32s* pSrcDst, int srcDstStep, KvriSize roiSize);
+
+/* Compare, CompareC - masks: one 8u per pixel, 255 where pSrc1 cmpOp pSrc2 (pSrc cmpOp value) holds in every compared
+ * channel (three of C3 and AC4, four of C4), 0 elsewhere. 32f by IEEE comparison: -0 equals 0, a NaN compares false with
+ * everything.
+ * Any cmpOp other than the five of KvrCmpOp is accepted and does nothing: 0 is returned and nothing is written.
+ * Errors, in this order: null pointer -8 (the array of constants counts), step below 1 -14, width or height below 1 -6. */
+KvrStatus kvriCompare_8u_C1R(const Kvr8u* pSrc1, int src1Step, const Kvr8u* pSrc2, int src2Step, Kvr8u* pDst, int dstStep, KvriSize roiSize, KvrCmpOp cmpOp);
+KvrStatus kvriCompare_8u_C3R(const Kvr8u* pSrc1, int src1Step, const Kvr8u* pSrc2, int src2Step, Kvr8u* pDst, int dstStep, KvriSize roiSize, KvrCmpOp cmpOp);
+KvrStatus kvriCompare_8u_C4R(const Kvr8u* pSrc1, int src1Step, const Kvr8u* pSrc2, int src2Step, Kvr8u* pDst, int dstStep, KvriSize roiSize, KvrCmpOp cmpOp);
+KvrStatus kvriCompare_8u_AC4R(const Kvr8u* pSrc1, int src1Step, const Kvr8u* pSrc2, int src2Step, Kvr8u* pDst, int dstStep, KvriSize roiSize, KvrCmpOp cmpOp);
+KvrStatus kvriCompare_16u_C1R(const Kvr16u* pSrc1, int src1Step, const Kvr16u* pSrc2, int src2Step, Kvr8u* pDst, int dstStep, KvriSize roiSize, KvrCmpOp cmpOp);
+KvrStatus kvriCompare_16u_C3R(const Kvr16u* pSrc1, int src1Step, const Kvr16u* pSrc2, int src2Step, Kvr8u* pDst, int dstStep, KvriSize roiSize, KvrCmpOp cmpOp);
+KvrStatus kvriCompare_16u_C4R(const Kvr16u* pSrc1, int src1Step, const Kvr16u* pSrc2, int src2Step, Kvr8u* pDst, int dstStep, KvriSize roiSize, KvrCmpOp cmpOp);
+KvrStatus kvriCompare_16u_AC4R(const Kvr16u* pSrc1, int src1Step, const Kvr16u* pSrc2, int src2Step, Kvr8u* pDst, int dstStep, KvriSize roiSize, KvrCmpOp cmpOp);
+KvrStatus kvriCompare_16s_C1R(const Kvr16s* pSrc1, int src1Step, const Kvr16s* pSrc2, int src2Step, Kvr8u* pDst, int dstStep, KvriSize roiSize, KvrCmpOp cmpOp);
+KvrStatus kvriCompare_16s_C3R(const Kvr16s* pSrc1, int src1Step, const Kvr16s* pSrc2, int src2Step, Kvr8u* pDst, int dstStep, KvriSize roiSize, KvrCmpOp cmpOp);
+KvrStatus kvriCompare_16s_C4R(const Kvr16s* pSrc1, int src1Step, const Kvr16s* pSrc2, int src2Step, Kvr8u* pDst, int dstStep, KvriSize roiSize, KvrCmpOp cmpOp);
+KvrStatus kvriCompare_16s_AC4R(const Kvr16s* pSrc1, int src1Step, const Kvr16s* pSrc2, int src2Step, Kvr8u* pDst, int dstStep, KvriSize roiSize, KvrCmpOp cmpOp);
+KvrStatus kvriCompare_32f_C1R(const Kvr32f* pSrc1, int src1Step, const Kvr32f* pSrc2, int src2Step, Kvr8u* pDst, int dstStep, KvriSize roiSize, KvrCmpOp cmpOp);
+KvrStatus kvriCompare_32f_C3R(const Kvr32f* pSrc1, int src1Step, const Kvr32f* pSrc2, int src2Step, Kvr8u* pDst, int dstStep, KvriSize roiSize, KvrCmpOp cmpOp);
+KvrStatus kvriCompare_32f_C4R(const Kvr32f* pSrc1, int src1Step, const Kvr32f* pSrc2, int src2Step, Kvr8u* pDst, int dstStep, KvriSize roiSize, KvrCmpOp cmpOp);
+KvrStatus kvriCompare_32f_AC4R(const Kvr32f* pSrc1, int src1Step, const Kvr32f* pSrc2, int src2Step, Kvr8u* pDst, int dstStep, KvriSize roiSize, KvrCmpOp cmpOp);
+KvrStatus kvriCompareC_8u_C1R(const Kvr8u* pSrc, int srcStep, Kvr8u value, Kvr8u* pDst, int dstStep, KvriSize roiSize, KvrCmpOp cmpOp);
+KvrStatus kvriCompareC_8u_C3R(const Kvr8u* pSrc, int srcStep, const Kvr8u value[3], Kvr8u* pDst, int dstStep, KvriSize roiSize, KvrCmpOp cmpOp);
+KvrStatus kvriCompareC_8u_C4R(const Kvr8u* pSrc, int srcStep, const Kvr8u value[4], Kvr8u* pDst, int dstStep, KvriSize roiSize, KvrCmpOp cmpOp);
+KvrStatus kvriCompareC_8u_AC4R(const Kvr8u* pSrc, int srcStep, const Kvr8u value[3], Kvr8u* pDst, int dstStep, KvriSize roiSize, KvrCmpOp cmpOp);
+KvrStatus kvriCompareC_16u_C1R(const Kvr16u* pSrc, int srcStep, Kvr16u value, Kvr8u* pDst, int dstStep, KvriSize roiSize, KvrCmpOp cmpOp);
+KvrStatus kvriCompareC_16u_C3R(const Kvr16u* pSrc, int srcStep, const Kvr16u value[3], Kvr8u* pDst, int dstStep, KvriSize roiSize, KvrCmpOp cmpOp);
+KvrStatus kvriCompareC_16u_C4R(const Kvr16u* pSrc, int srcStep, const Kvr16u value[4], Kvr8u* pDst, int dstStep, KvriSize roiSize, KvrCmpOp cmpOp);
+KvrStatus kvriCompareC_16u_AC4R(const Kvr16u* pSrc, int srcStep, const Kvr16u value[3], Kvr8u* pDst, int dstStep, KvriSize roiSize, KvrCmpOp cmpOp);
+KvrStatus kvriCompareC_16s_C1R(const Kvr16s* pSrc, int srcStep, Kvr16s value, Kvr8u* pDst, int dstStep, KvriSize roiSize, KvrCmpOp cmpOp);
+KvrStatus kvriCompareC_16s_C3R(const Kvr16s* pSrc, int srcStep, const Kvr16s value[3], Kvr8u* pDst, int dstStep, KvriSize roiSize, KvrCmpOp cmpOp);
+KvrStatus kvriCompareC_16s_C4R(const Kvr16s* pSrc, int srcStep, const Kvr16s value[4], Kvr8u* pDst, int dstStep, KvriSize roiSize, KvrCmpOp cmpOp);
+KvrStatus kvriCompareC_16s_AC4R(const Kvr16s* pSrc, int srcStep, const Kvr16s value[3], Kvr8u* pDst, int dstStep, KvriSize roiSize, KvrCmpOp cmpOp);
+KvrStatus kvriCompareC_32f_C1R(const Kvr32f* pSrc, int srcStep, Kvr32f value, Kvr8u* pDst, int dstStep, KvriSize roiSize, KvrCmpOp cmpOp);
+KvrStatus kvriCompareC_32f_C3R(const Kvr32f* pSrc, int srcStep, const Kvr32f value[3], Kvr8u* pDst, int dstStep, KvriSize roiSize, KvrCmpOp cmpOp);
+KvrStatus kvriCompareC_32f_C4R(const Kvr32f* pSrc, int srcStep, const Kvr32f value[4], Kvr8u* pDst, int dstStep, KvriSize roiSize, KvrCmpOp cmpOp);
+KvrStatus kvriCompareC_32f_AC4R(const Kvr32f* pSrc, int srcStep, const Kvr32f value[3], Kvr8u* pDst, int dstStep, KvriSize roiSize, KvrCmpOp cmpOp);
+
+/* CompareEqualEps, CompareEqualEpsC - masks as of Compare of the pixels in whose compared channels |pSrc1 - pSrc2| <= eps
+ * (|pSrc - value| <= eps), the difference in single precision. Where it is a NaN, so also for equal infinities, 0.
+ * Errors as for Compare, then eps below 0 -36. */
+KvrStatus kvriCompareEqualEps_32f_C1R(const Kvr32f* pSrc1, int src1Step, const Kvr32f* pSrc2, int src2Step, Kvr8u* pDst, int dstStep, KvriSize roiSize, Kvr32f eps);
+KvrStatus kvriCompareEqualEps_32f_C3R(const Kvr32f* pSrc1, int src1Step, const Kvr32f* pSrc2, int src2Step, Kvr8u* pDst, int dstStep, KvriSize roiSize, Kvr32f eps);
+KvrStatus kvriCompareEqualEps_32f_C4R(const Kvr32f* pSrc1, int src1Step, const Kvr32f* pSrc2, int src2Step, Kvr8u* pDst, int dstStep, KvriSize roiSize, Kvr32f eps);
+KvrStatus kvriCompareEqualEps_32f_AC4R(const Kvr32f* pSrc1, int src1Step, const Kvr32f* pSrc2, int src2Step, Kvr8u* pDst, int dstStep, KvriSize roiSize, Kvr32f eps);
+KvrStatus kvriCompareEqualEpsC_32f_C1R(const Kvr32f* pSrc, int srcStep, Kvr32f value, Kvr8u* pDst, int dstStep, KvriSize roiSize, Kvr32f eps);
+KvrStatus kvriCompareEqualEpsC_32f_C3R(const Kvr32f* pSrc, int srcStep, const Kvr32f value[3], Kvr8u* pDst, int dstStep, KvriSize roiSize, Kvr32f eps);
+KvrStatus kvriCompareEqualEpsC_32f_C4R(const Kvr32f* pSrc, int srcStep, const Kvr32f value[4], Kvr8u* pDst, int dstStep, KvriSize roiSize, Kvr32f eps);
+KvrStatus kvriCompareEqualEpsC_32f_AC4R(const Kvr32f* pSrc, int srcStep, const Kvr32f value[3], Kvr8u* pDst, int dstStep, KvriSize roiSize, Kvr32f eps);
+
+/* Threshold - samples limited to one side of a threshold: with kvrCmpLess a sample below it becomes the threshold, with
+ * kvrCmpGreater one above it. Threshold_LT, Threshold_GT are Threshold with one of these codes. 32f: a NaN, as sample or as
+ * threshold, leaves the sample unchanged; so does -0 against 0.
+ * Pixel by pixel, no neighbourhood. IR works in place. AC4 processes three channels and leaves the destination's fourth as
+ * it is. Thresholds (and values, below): C1 the number itself, C3 and AC4 an array of three, C4 of four.
+ * Errors, in this order: null pointer -8 (the array of thresholds counts), width or height below 1 -6, step below 1 -14,
+ * another code -9999. */
+KvrStatus kvriThreshold_8u_C1R(const Kvr8u* pSrc, int srcStep, Kvr8u* pDst, int dstStep, KvriSize roiSize, Kvr8u threshold, KvrCmpOp cmpOp);
+KvrStatus kvriThreshold_8u_C3R(const Kvr8u* pSrc, int srcStep, Kvr8u* pDst, int dstStep, KvriSize roiSize, const Kvr8u threshold[3], KvrCmpOp cmpOp);
+KvrStatus kvriThreshold_8u_AC4R(const Kvr8u* pSrc, int srcStep, Kvr8u* pDst, int dstStep, KvriSize roiSize, const Kvr8u threshold[3], KvrCmpOp cmpOp);
+KvrStatus kvriThreshold_8u_C1IR(Kvr8u* pSrcDst, int srcDstStep, KvriSize roiSize, Kvr8u threshold, KvrCmpOp cmpOp);
+KvrStatus kvriThreshold_8u_C3IR(Kvr8u* pSrcDst, int srcDstStep, KvriSize roiSize, const Kvr8u threshold[3], KvrCmpOp cmpOp);
+KvrStatus kvriThreshold_8u_AC4IR(Kvr8u* pSrcDst, int srcDstStep, KvriSize roiSize, const Kvr8u threshold[3], KvrCmpOp cmpOp);
+KvrStatus kvriThreshold_16u_C1R(const Kvr16u* pSrc, int srcStep, Kvr16u* pDst, int dstStep, KvriSize roiSize, Kvr16u threshold, KvrCmpOp cmpOp);
+KvrStatus kvriThreshold_16u_C3R(const Kvr16u* pSrc, int srcStep, Kvr16u* pDst, int dstStep, KvriSize roiSize, const Kvr16u threshold[3], KvrCmpOp cmpOp);
+KvrStatus kvriThreshold_16u_AC4R(const Kvr16u* pSrc, int srcStep, Kvr16u* pDst, int dstStep, KvriSize roiSize, const Kvr16u threshold[3], KvrCmpOp cmpOp);
+KvrStatus kvriThreshold_16u_C1IR(Kvr16u* pSrcDst, int srcDstStep, KvriSize roiSize, Kvr16u threshold, KvrCmpOp cmpOp);
+KvrStatus kvriThreshold_16u_C3IR(Kvr16u* pSrcDst, int srcDstStep, KvriSize roiSize, const Kvr16u threshold[3], KvrCmpOp cmpOp);
+KvrStatus kvriThreshold_16u_AC4IR(Kvr16u* pSrcDst, int srcDstStep, KvriSize roiSize, const Kvr16u threshold[3], KvrCmpOp cmpOp);
+KvrStatus kvriThreshold_16s_C1R(const Kvr16s* pSrc, int srcStep, Kvr16s* pDst, int dstStep, KvriSize roiSize, Kvr16s threshold, KvrCmpOp cmpOp);
+KvrStatus kvriThreshold_16s_C3R(const Kvr16s* pSrc, int srcStep, Kvr16s* pDst, int dstStep, KvriSize roiSize, const Kvr16s threshold[3], KvrCmpOp cmpOp);
+KvrStatus kvriThreshold_16s_AC4R(const Kvr16s* pSrc, int srcStep, Kvr16s* pDst, int dstStep, KvriSize roiSize, const Kvr16s threshold[3], KvrCmpOp cmpOp);
+KvrStatus kvriThreshold_16s_C1IR(Kvr16s* pSrcDst, int srcDstStep, KvriSize roiSize, Kvr16s threshold, KvrCmpOp cmpOp);
+KvrStatus kvriThreshold_16s_C3IR(Kvr16s* pSrcDst, int srcDstStep, KvriSize roiSize, const Kvr16s threshold[3], KvrCmpOp cmpOp);
+KvrStatus kvriThreshold_16s_AC4IR(Kvr16s* pSrcDst, int srcDstStep, KvriSize roiSize, const Kvr16s threshold[3], KvrCmpOp cmpOp);
+KvrStatus kvriThreshold_32f_C1R(const Kvr32f* pSrc, int srcStep, Kvr32f* pDst, int dstStep, KvriSize roiSize, Kvr32f threshold, KvrCmpOp cmpOp);
+KvrStatus kvriThreshold_32f_C3R(const Kvr32f* pSrc, int srcStep, Kvr32f* pDst, int dstStep, KvriSize roiSize, const Kvr32f threshold[3], KvrCmpOp cmpOp);
+KvrStatus kvriThreshold_32f_AC4R(const Kvr32f* pSrc, int srcStep, Kvr32f* pDst, int dstStep, KvriSize roiSize, const Kvr32f threshold[3], KvrCmpOp cmpOp);
+KvrStatus kvriThreshold_32f_C1IR(Kvr32f* pSrcDst, int srcDstStep, KvriSize roiSize, Kvr32f threshold, KvrCmpOp cmpOp);
+KvrStatus kvriThreshold_32f_C3IR(Kvr32f* pSrcDst, int srcDstStep, KvriSize roiSize, const Kvr32f threshold[3], KvrCmpOp cmpOp);
+KvrStatus kvriThreshold_32f_AC4IR(Kvr32f* pSrcDst, int srcDstStep, KvriSize roiSize, const Kvr32f threshold[3], KvrCmpOp cmpOp);
+KvrStatus kvriThreshold_GT_8u_C1R(const Kvr8u* pSrc, int srcStep, Kvr8u* pDst, int dstStep, KvriSize roiSize, Kvr8u threshold);
+KvrStatus kvriThreshold_GT_8u_C3R(const Kvr8u* pSrc, int srcStep, Kvr8u* pDst, int dstStep, KvriSize roiSize, const Kvr8u threshold[3]);
+KvrStatus kvriThreshold_GT_8u_AC4R(const Kvr8u* pSrc, int srcStep, Kvr8u* pDst, int dstStep, KvriSize roiSize, const Kvr8u threshold[3]);
+KvrStatus kvriThreshold_GT_8u_C1IR(Kvr8u* pSrcDst, int srcDstStep, KvriSize roiSize, Kvr8u threshold);
+KvrStatus kvriThreshold_GT_8u_C3IR(Kvr8u* pSrcDst, int srcDstStep, KvriSize roiSize, const Kvr8u threshold[3]);
+KvrStatus kvriThreshold_GT_8u_AC4IR(Kvr8u* pSrcDst, int srcDstStep, KvriSize roiSize, const Kvr8u threshold[3]);
+KvrStatus kvriThreshold_GT_16u_C1R(const Kvr16u* pSrc, int srcStep, Kvr16u* pDst, int dstStep, KvriSize roiSize, Kvr16u threshold);
+KvrStatus kvriThreshold_GT_16u_C3R(const Kvr16u* pSrc, int srcStep, Kvr16u* pDst, int dstStep, KvriSize roiSize, const Kvr16u threshold[3]);
+KvrStatus kvriThreshold_GT_16u_AC4R(const Kvr16u* pSrc, int srcStep, Kvr16u* pDst, int dstStep, KvriSize roiSize, const Kvr16u threshold[3]);
+KvrStatus kvriThreshold_GT_16u_C1IR(Kvr16u* pSrcDst, int srcDstStep, KvriSize roiSize, Kvr16u threshold);
+KvrStatus kvriThreshold_GT_16u_C3IR(Kvr16u* pSrcDst, int srcDstStep, KvriSize roiSize, const Kvr16u threshold[3]);
+KvrStatus kvriThreshold_GT_16u_AC4IR(Kvr16u* pSrcDst, int srcDstStep, KvriSize roiSize, const Kvr16u threshold[3]);
+KvrStatus kvriThreshold_GT_16s_C1R(const Kvr16s* pSrc, int srcStep, Kvr16s* pDst, int dstStep, KvriSize roiSize, Kvr16s threshold);
+KvrStatus kvriThreshold_GT_16s_C3R(const Kvr16s* pSrc, int srcStep, Kvr16s* pDst, int dstStep, KvriSize roiSize, const Kvr16s threshold[3]);
+KvrStatus kvriThreshold_GT_16s_AC4R(const Kvr16s* pSrc, int srcStep, Kvr16s* pDst, int dstStep, KvriSize roiSize, const Kvr16s threshold[3]);
+KvrStatus kvriThreshold_GT_16s_C1IR(Kvr16s* pSrcDst, int srcDstStep, KvriSize roiSize, Kvr16s threshold);
+KvrStatus kvriThreshold_GT_16s_C3IR(Kvr16s* pSrcDst, int srcDstStep, KvriSize roiSize, const Kvr16s threshold[3]);
+KvrStatus kvriThreshold_GT_16s_AC4IR(Kvr16s* pSrcDst, int srcDstStep, KvriSize roiSize, const Kvr16s threshold[3]);
+KvrStatus kvriThreshold_GT_32f_C1R(const Kvr32f* pSrc, int srcStep, Kvr32f* pDst, int dstStep, KvriSize roiSize, Kvr32f threshold);
+KvrStatus kvriThreshold_GT_32f_C3R(const Kvr32f* pSrc, int srcStep, Kvr32f* pDst, int dstStep, KvriSize roiSize, const Kvr32f threshold[3]);
+KvrStatus kvriThreshold_GT_32f_AC4R(const Kvr32f* pSrc, int srcStep, Kvr32f* pDst, int dstStep, KvriSize roiSize, const Kvr32f threshold[3]);
+KvrStatus kvriThreshold_GT_32f_C1IR(Kvr32f* pSrcDst, int srcDstStep, KvriSize roiSize, Kvr32f threshold);
+KvrStatus kvriThreshold_GT_32f_C3IR(Kvr32f* pSrcDst, int srcDstStep, KvriSize roiSize, const Kvr32f threshold[3]);
+KvrStatus kvriThreshold_GT_32f_AC4IR(Kvr32f* pSrcDst, int srcDstStep, KvriSize roiSize, const Kvr32f threshold[3]);
+KvrStatus kvriThreshold_LT_8u_C1R(const Kvr8u* pSrc, int srcStep, Kvr8u* pDst, int dstStep, KvriSize roiSize, Kvr8u threshold);
+KvrStatus kvriThreshold_LT_8u_C3R(const Kvr8u* pSrc, int srcStep, Kvr8u* pDst, int dstStep, KvriSize roiSize, const Kvr8u threshold[3]);
+KvrStatus kvriThreshold_LT_8u_AC4R(const Kvr8u* pSrc, int srcStep, Kvr8u* pDst, int dstStep, KvriSize roiSize, const Kvr8u threshold[3]);
+KvrStatus kvriThreshold_LT_8u_C1IR(Kvr8u* pSrcDst, int srcDstStep, KvriSize roiSize, Kvr8u threshold);
+KvrStatus kvriThreshold_LT_8u_C3IR(Kvr8u* pSrcDst, int srcDstStep, KvriSize roiSize, const Kvr8u threshold[3]);
+KvrStatus kvriThreshold_LT_8u_AC4IR(Kvr8u* pSrcDst, int srcDstStep, KvriSize roiSize, const Kvr8u threshold[3]);
+KvrStatus kvriThreshold_LT_16u_C1R(const Kvr16u* pSrc, int srcStep, Kvr16u* pDst, int dstStep, KvriSize roiSize, Kvr16u threshold);
+KvrStatus kvriThreshold_LT_16u_C3R(const Kvr16u* pSrc, int srcStep, Kvr16u* pDst, int dstStep, KvriSize roiSize, const Kvr16u threshold[3]);
+KvrStatus kvriThreshold_LT_16u_AC4R(const Kvr16u* pSrc, int srcStep, Kvr16u* pDst, int dstStep, KvriSize roiSize, const Kvr16u threshold[3]);
+KvrStatus kvriThreshold_LT_16u_C1IR(Kvr16u* pSrcDst, int srcDstStep, KvriSize roiSize, Kvr16u threshold);
+KvrStatus kvriThreshold_LT_16u_C3IR(Kvr16u* pSrcDst, int srcDstStep, KvriSize roiSize, const Kvr16u threshold[3]);
+KvrStatus kvriThreshold_LT_16u_AC4IR(Kvr16u* pSrcDst, int srcDstStep, KvriSize roiSize, const Kvr16u threshold[3]);
+KvrStatus kvriThreshold_LT_16s_C1R(const Kvr16s* pSrc, int srcStep, Kvr16s* pDst, int dstStep, KvriSize roiSize, Kvr16s threshold);
+KvrStatus kvriThreshold_LT_16s_C3R(const Kvr16s* pSrc, int srcStep, Kvr16s* pDst, int dstStep, KvriSize roiSize, const Kvr16s threshold[3]);
+KvrStatus kvriThreshold_LT_16s_AC4R(const Kvr16s* pSrc, int srcStep, Kvr16s* pDst, int dstStep, KvriSize roiSize, const Kvr16s threshold[3]);
+KvrStatus kvriThreshold_LT_16s_C1IR(Kvr16s* pSrcDst, int srcDstStep, KvriSize roiSize, Kvr16s threshold);
+KvrStatus kvriThreshold_LT_16s_C3IR(Kvr16s* pSrcDst, int srcDstStep, KvriSize roiSize, const Kvr16s threshold[3]);
+KvrStatus kvriThreshold_LT_16s_AC4IR(Kvr16s* pSrcDst, int srcDstStep, KvriSize roiSize, const Kvr16s threshold[3]);
+KvrStatus kvriThreshold_LT_32f_C1R(const Kvr32f* pSrc, int srcStep, Kvr32f* pDst, int dstStep, KvriSize roiSize, Kvr32f threshold);
+KvrStatus kvriThreshold_LT_32f_C3R(const Kvr32f* pSrc, int srcStep, Kvr32f* pDst, int dstStep, KvriSize roiSize, const Kvr32f threshold[3]);
+KvrStatus kvriThreshold_LT_32f_AC4R(const Kvr32f* pSrc, int srcStep, Kvr32f* pDst, int dstStep, KvriSize roiSize, const Kvr32f threshold[3]);
+KvrStatus kvriThreshold_LT_32f_C1IR(Kvr32f* pSrcDst, int srcDstStep, KvriSize roiSize, Kvr32f threshold);
+KvrStatus kvriThreshold_LT_32f_C3IR(Kvr32f* pSrcDst, int srcDstStep, KvriSize roiSize, const Kvr32f threshold[3]);
+KvrStatus kvriThreshold_LT_32f_AC4IR(Kvr32f* pSrcDst, int srcDstStep, KvriSize roiSize, const Kvr32f threshold[3]);
+
+/* Threshold_Val - samples beyond a threshold replaced: with kvrCmpLess a sample below it becomes the value, with
+ * kvrCmpGreater one above it. Threshold_LTVal, Threshold_GTVal are Threshold_Val with one of these codes. 32f: a NaN sample
+ * is kept.
+ * Errors, in this order: another code -9999, null pointer -8 (the arrays count), width or height below 1 -6, step below 1
+ * -14. */
+KvrStatus kvriThreshold_Val_8u_C1R(const Kvr8u* pSrc, int srcStep, Kvr8u* pDst, int dstStep, KvriSize roiSize, Kvr8u threshold, Kvr8u value, KvrCmpOp cmpOp);
+KvrStatus kvriThreshold_Val_8u_C3R(const Kvr8u* pSrc, int srcStep, Kvr8u* pDst, int dstStep, KvriSize roiSize, const Kvr8u threshold[3], const Kvr8u value[3], KvrCmpOp cmpOp);
+KvrStatus kvriThreshold_Val_8u_AC4R(const Kvr8u* pSrc, int srcStep, Kvr8u* pDst, int dstStep, KvriSize roiSize, const Kvr8u threshold[3], const Kvr8u value[3], KvrCmpOp cmpOp);
+KvrStatus kvriThreshold_Val_8u_C1IR(Kvr8u* pSrcDst, int srcDstStep, KvriSize roiSize, Kvr8u threshold, Kvr8u value, KvrCmpOp cmpOp);
+KvrStatus kvriThreshold_Val_8u_C3IR(Kvr8u* pSrcDst, int srcDstStep, KvriSize roiSize, const Kvr8u threshold[3], const Kvr8u value[3], KvrCmpOp cmpOp);
+KvrStatus kvriThreshold_Val_8u_AC4IR(Kvr8u* pSrcDst, int srcDstStep, KvriSize roiSize, const Kvr8u threshold[3], const Kvr8u value[3], KvrCmpOp cmpOp);
+KvrStatus kvriThreshold_Val_16u_C1R(const Kvr16u* pSrc, int srcStep, Kvr16u* pDst, int dstStep, KvriSize roiSize, Kvr16u threshold, Kvr16u value, KvrCmpOp cmpOp);
+KvrStatus kvriThreshold_Val_16u_C3R(const Kvr16u* pSrc, int srcStep, Kvr16u* pDst, int dstStep, KvriSize roiSize, const Kvr16u threshold[3], const Kvr16u value[3], KvrCmpOp cmpOp);
+KvrStatus kvriThreshold_Val_16u_AC4R(const Kvr16u* pSrc, int srcStep, Kvr16u* pDst, int dstStep, KvriSize roiSize, const Kvr16u threshold[3], const Kvr16u value[3], KvrCmpOp cmpOp);
+KvrStatus kvriThreshold_Val_16u_C1IR(Kvr16u* pSrcDst, int srcDstStep, KvriSize roiSize, Kvr16u threshold, Kvr16u value, KvrCmpOp cmpOp);
+KvrStatus kvriThreshold_Val_16u_C3IR(Kvr16u* pSrcDst, int srcDstStep, KvriSize roiSize, const Kvr16u threshold[3], const Kvr16u value[3], KvrCmpOp cmpOp);
+KvrStatus kvriThreshold_Val_16u_AC4IR(Kvr16u* pSrcDst, int srcDstStep, KvriSize roiSize, const Kvr16u threshold[3], const Kvr16u value[3], KvrCmpOp cmpOp);
+KvrStatus kvriThreshold_Val_16s_C1R(const Kvr16s* pSrc, int srcStep, Kvr16s* pDst, int dstStep, KvriSize roiSize, Kvr16s threshold, Kvr16s value, KvrCmpOp cmpOp);
+KvrStatus kvriThreshold_Val_16s_C3R(const Kvr16s* pSrc, int srcStep, Kvr16s* pDst, int dstStep, KvriSize roiSize, const Kvr16s threshold[3], const Kvr16s value[3], KvrCmpOp cmpOp);
+KvrStatus kvriThreshold_Val_16s_AC4R(const Kvr16s* pSrc, int srcStep, Kvr16s* pDst, int dstStep, KvriSize roiSize, const Kvr16s threshold[3], const Kvr16s value[3], KvrCmpOp cmpOp);
+KvrStatus kvriThreshold_Val_16s_C1IR(Kvr16s* pSrcDst, int srcDstStep, KvriSize roiSize, Kvr16s threshold, Kvr16s value, KvrCmpOp cmpOp);
+KvrStatus kvriThreshold_Val_16s_C3IR(Kvr16s* pSrcDst, int srcDstStep, KvriSize roiSize, const Kvr16s threshold[3], const Kvr16s value[3], KvrCmpOp cmpOp);
+KvrStatus kvriThreshold_Val_16s_AC4IR(Kvr16s* pSrcDst, int srcDstStep, KvriSize roiSize, const Kvr16s threshold[3], const Kvr16s value[3], KvrCmpOp cmpOp);
+KvrStatus kvriThreshold_Val_32f_C1R(const Kvr32f* pSrc, int srcStep, Kvr32f* pDst, int dstStep, KvriSize roiSize, Kvr32f threshold, Kvr32f value, KvrCmpOp cmpOp);
+KvrStatus kvriThreshold_Val_32f_C3R(const Kvr32f* pSrc, int srcStep, Kvr32f* pDst, int dstStep, KvriSize roiSize, const Kvr32f threshold[3], const Kvr32f value[3], KvrCmpOp cmpOp);
+KvrStatus kvriThreshold_Val_32f_AC4R(const Kvr32f* pSrc, int srcStep, Kvr32f* pDst, int dstStep, KvriSize roiSize, const Kvr32f threshold[3], const Kvr32f value[3], KvrCmpOp cmpOp);
+KvrStatus kvriThreshold_Val_32f_C1IR(Kvr32f* pSrcDst, int srcDstStep, KvriSize roiSize, Kvr32f threshold, Kvr32f value, KvrCmpOp cmpOp);
+KvrStatus kvriThreshold_Val_32f_C3IR(Kvr32f* pSrcDst, int srcDstStep, KvriSize roiSize, const Kvr32f threshold[3], const Kvr32f value[3], KvrCmpOp cmpOp);
+KvrStatus kvriThreshold_Val_32f_AC4IR(Kvr32f* pSrcDst, int srcDstStep, KvriSize roiSize, const Kvr32f threshold[3], const Kvr32f value[3], KvrCmpOp cmpOp);
+KvrStatus kvriThreshold_GTVal_8u_C1R(const Kvr8u* pSrc, int srcStep, Kvr8u* pDst, int dstStep, KvriSize roiSize, Kvr8u threshold, Kvr8u value);
+KvrStatus kvriThreshold_GTVal_8u_C3R(const Kvr8u* pSrc, int srcStep, Kvr8u* pDst, int dstStep, KvriSize roiSize, const Kvr8u threshold[3], const Kvr8u value[3]);
+KvrStatus kvriThreshold_GTVal_8u_C4R(const Kvr8u* pSrc, int srcStep, Kvr8u* pDst, int dstStep, KvriSize roiSize, const Kvr8u threshold[4], const Kvr8u value[4]);
+KvrStatus kvriThreshold_GTVal_8u_AC4R(const Kvr8u* pSrc, int srcStep, Kvr8u* pDst, int dstStep, KvriSize roiSize, const Kvr8u threshold[3], const Kvr8u value[3]);
+KvrStatus kvriThreshold_GTVal_8u_C1IR(Kvr8u* pSrcDst, int srcDstStep, KvriSize roiSize, Kvr8u threshold, Kvr8u value);
+KvrStatus kvriThreshold_GTVal_8u_C3IR(Kvr8u* pSrcDst, int srcDstStep, KvriSize roiSize, const Kvr8u threshold[3], const Kvr8u value[3]);
+KvrStatus kvriThreshold_GTVal_8u_C4IR(Kvr8u* pSrcDst, int srcDstStep, KvriSize roiSize, const Kvr8u threshold[4], const Kvr8u value[4]);
+KvrStatus kvriThreshold_GTVal_8u_AC4IR(Kvr8u* pSrcDst, int srcDstStep, KvriSize roiSize, const Kvr8u threshold[3], const Kvr8u value[3]);
+KvrStatus kvriThreshold_GTVal_16u_C1R(const Kvr16u* pSrc, int srcStep, Kvr16u* pDst, int dstStep, KvriSize roiSize, Kvr16u threshold, Kvr16u value);
+KvrStatus kvriThreshold_GTVal_16u_C3R(const Kvr16u* pSrc, int srcStep, Kvr16u* pDst, int dstStep, KvriSize roiSize, const Kvr16u threshold[3], const Kvr16u value[3]);
+KvrStatus kvriThreshold_GTVal_16u_C4R(const Kvr16u* pSrc, int srcStep, Kvr16u* pDst, int dstStep, KvriSize roiSize, const Kvr16u threshold[4], const Kvr16u value[4]);
+KvrStatus kvriThreshold_GTVal_16u_AC4R(const Kvr16u* pSrc, int srcStep, Kvr16u* pDst, int dstStep, KvriSize roiSize, const Kvr16u threshold[3], const Kvr16u value[3]);
+KvrStatus kvriThreshold_GTVal_16u_C1IR(Kvr16u* pSrcDst, int srcDstStep, KvriSize roiSize, Kvr16u threshold, Kvr16u value);
+KvrStatus kvriThreshold_GTVal_16u_C3IR(Kvr16u* pSrcDst, int srcDstStep, KvriSize roiSize, const Kvr16u threshold[3], const Kvr16u value[3]);
+KvrStatus kvriThreshold_GTVal_16u_C4IR(Kvr16u* pSrcDst, int srcDstStep, KvriSize roiSize, const Kvr16u threshold[4], const Kvr16u value[4]);
+KvrStatus kvriThreshold_GTVal_16u_AC4IR(Kvr16u* pSrcDst, int srcDstStep, KvriSize roiSize, const Kvr16u threshold[3], const Kvr16u value[3]);
+KvrStatus kvriThreshold_GTVal_16s_C1R(const Kvr16s* pSrc, int srcStep, Kvr16s* pDst, int dstStep, KvriSize roiSize, Kvr16s threshold, Kvr16s value);
+KvrStatus kvriThreshold_GTVal_16s_C3R(const Kvr16s* pSrc, int srcStep, Kvr16s* pDst, int dstStep, KvriSize roiSize, const Kvr16s threshold[3], const Kvr16s value[3]);
+KvrStatus kvriThreshold_GTVal_16s_C4R(const Kvr16s* pSrc, int srcStep, Kvr16s* pDst, int dstStep, KvriSize roiSize, const Kvr16s threshold[4], const Kvr16s value[4]);
+KvrStatus kvriThreshold_GTVal_16s_AC4R(const Kvr16s* pSrc, int srcStep, Kvr16s* pDst, int dstStep, KvriSize roiSize, const Kvr16s threshold[3], const Kvr16s value[3]);
+KvrStatus kvriThreshold_GTVal_16s_C1IR(Kvr16s* pSrcDst, int srcDstStep, KvriSize roiSize, Kvr16s threshold, Kvr16s value);
+KvrStatus kvriThreshold_GTVal_16s_C3IR(Kvr16s* pSrcDst, int srcDstStep, KvriSize roiSize, const Kvr16s threshold[3], const Kvr16s value[3]);
+KvrStatus kvriThreshold_GTVal_16s_C4IR(Kvr16s* pSrcDst, int srcDstStep, KvriSize roiSize, const Kvr16s threshold[4], const Kvr16s value[4]);
+KvrStatus kvriThreshold_GTVal_16s_AC4IR(Kvr16s* pSrcDst, int srcDstStep, KvriSize roiSize, const Kvr16s threshold[3], const Kvr16s value[3]);
+KvrStatus kvriThreshold_GTVal_32f_C1R(const Kvr32f* pSrc, int srcStep, Kvr32f* pDst, int dstStep, KvriSize roiSize, Kvr32f threshold, Kvr32f value);
+KvrStatus kvriThreshold_GTVal_32f_C3R(const Kvr32f* pSrc, int srcStep, Kvr32f* pDst, int dstStep, KvriSize roiSize, const Kvr32f threshold[3], const Kvr32f value[3]);
+KvrStatus kvriThreshold_GTVal_32f_C4R(const Kvr32f* pSrc, int srcStep, Kvr32f* pDst, int dstStep, KvriSize roiSize, const Kvr32f threshold[4], const Kvr32f value[4]);
+KvrStatus kvriThreshold_GTVal_32f_AC4R(const Kvr32f* pSrc, int srcStep, Kvr32f* pDst, int dstStep, KvriSize roiSize, const Kvr32f threshold[3], const Kvr32f value[3]);
+KvrStatus kvriThreshold_GTVal_32f_C1IR(Kvr32f* pSrcDst, int srcDstStep, KvriSize roiSize, Kvr32f threshold, Kvr32f value);
+KvrStatus kvriThreshold_GTVal_32f_C3IR(Kvr32f* pSrcDst, int srcDstStep, KvriSize roiSize, const Kvr32f threshold[3], const Kvr32f value[3]);
+KvrStatus kvriThreshold_GTVal_32f_C4IR(Kvr32f* pSrcDst, int srcDstStep, KvriSize roiSize, const Kvr32f threshold[4], const Kvr32f value[4]);
+KvrStatus kvriThreshold_GTVal_32f_AC4IR(Kvr32f* pSrcDst, int srcDstStep, KvriSize roiSize, const Kvr32f threshold[3], const Kvr32f value[3]);
+KvrStatus kvriThreshold_LTVal_8u_C1R(const Kvr8u* pSrc, int srcStep, Kvr8u* pDst, int dstStep, KvriSize roiSize, Kvr8u threshold, Kvr8u value);
+KvrStatus kvriThreshold_LTVal_8u_C3R(const Kvr8u* pSrc, int srcStep, Kvr8u* pDst, int dstStep, KvriSize roiSize, const Kvr8u threshold[3], const Kvr8u value[3]);
+KvrStatus kvriThreshold_LTVal_8u_C4R(const Kvr8u* pSrc, int srcStep, Kvr8u* pDst, int dstStep, KvriSize roiSize, const Kvr8u threshold[4], const Kvr8u value[4]);
+KvrStatus kvriThreshold_LTVal_8u_AC4R(const Kvr8u* pSrc, int srcStep, Kvr8u* pDst, int dstStep, KvriSize roiSize, const Kvr8u threshold[3], const Kvr8u value[3]);
+KvrStatus kvriThreshold_LTVal_8u_C1IR(Kvr8u* pSrcDst, int srcDstStep, KvriSize roiSize, Kvr8u threshold, Kvr8u value);
+KvrStatus kvriThreshold_LTVal_8u_C3IR(Kvr8u* pSrcDst, int srcDstStep, KvriSize roiSize, const Kvr8u threshold[3], const Kvr8u value[3]);
+KvrStatus kvriThreshold_LTVal_8u_C4IR(Kvr8u* pSrcDst, int srcDstStep, KvriSize roiSize, const Kvr8u threshold[4], const Kvr8u value[4]);
+KvrStatus kvriThreshold_LTVal_8u_AC4IR(Kvr8u* pSrcDst, int srcDstStep, KvriSize roiSize, const Kvr8u threshold[3], const Kvr8u value[3]);
+KvrStatus kvriThreshold_LTVal_16u_C1R(const Kvr16u* pSrc, int srcStep, Kvr16u* pDst, int dstStep, KvriSize roiSize, Kvr16u threshold, Kvr16u value);
+KvrStatus kvriThreshold_LTVal_16u_C3R(const Kvr16u* pSrc, int srcStep, Kvr16u* pDst, int dstStep, KvriSize roiSize, const Kvr16u threshold[3], const Kvr16u value[3]);
+KvrStatus kvriThreshold_LTVal_16u_C4R(const Kvr16u* pSrc, int srcStep, Kvr16u* pDst, int dstStep, KvriSize roiSize, const Kvr16u threshold[4], const Kvr16u value[4]);
+KvrStatus kvriThreshold_LTVal_16u_AC4R(const Kvr16u* pSrc, int srcStep, Kvr16u* pDst, int dstStep, KvriSize roiSize, const Kvr16u threshold[3], const Kvr16u value[3]);
+KvrStatus kvriThreshold_LTVal_16u_C1IR(Kvr16u* pSrcDst, int srcDstStep, KvriSize roiSize, Kvr16u threshold, Kvr16u value);
+KvrStatus kvriThreshold_LTVal_16u_C3IR(Kvr16u* pSrcDst, int srcDstStep, KvriSize roiSize, const Kvr16u threshold[3], const Kvr16u value[3]);
+KvrStatus kvriThreshold_LTVal_16u_C4IR(Kvr16u* pSrcDst, int srcDstStep, KvriSize roiSize, const Kvr16u threshold[4], const Kvr16u value[4]);
+KvrStatus kvriThreshold_LTVal_16u_AC4IR(Kvr16u* pSrcDst, int srcDstStep, KvriSize roiSize, const Kvr16u threshold[3], const Kvr16u value[3]);
+KvrStatus kvriThreshold_LTVal_16s_C1R(const Kvr16s* pSrc, int srcStep, Kvr16s* pDst, int dstStep, KvriSize roiSize, Kvr16s threshold, Kvr16s value);
+KvrStatus kvriThreshold_LTVal_16s_C3R(const Kvr16s* pSrc, int srcStep, Kvr16s* pDst, int dstStep, KvriSize roiSize, const Kvr16s threshold[3], const Kvr16s value[3]);
+KvrStatus kvriThreshold_LTVal_16s_C4R(const Kvr16s* pSrc, int srcStep, Kvr16s* pDst, int dstStep, KvriSize roiSize, const Kvr16s threshold[4], const Kvr16s value[4]);
+KvrStatus kvriThreshold_LTVal_16s_AC4R(const Kvr16s* pSrc, int srcStep, Kvr16s* pDst, int dstStep, KvriSize roiSize, const Kvr16s threshold[3], const Kvr16s value[3]);
+KvrStatus kvriThreshold_LTVal_16s_C1IR(Kvr16s* pSrcDst, int srcDstStep, KvriSize roiSize, Kvr16s threshold, Kvr16s value);
+KvrStatus kvriThreshold_LTVal_16s_C3IR(Kvr16s* pSrcDst, int srcDstStep, KvriSize roiSize, const Kvr16s threshold[3], const Kvr16s value[3]);
+KvrStatus kvriThreshold_LTVal_16s_C4IR(Kvr16s* pSrcDst, int srcDstStep, KvriSize roiSize, const Kvr16s threshold[4], const Kvr16s value[4]);
+KvrStatus kvriThreshold_LTVal_16s_AC4IR(Kvr16s* pSrcDst, int srcDstStep, KvriSize roiSize, const Kvr16s threshold[3], const Kvr16s value[3]);
+KvrStatus kvriThreshold_LTVal_32f_C1R(const Kvr32f* pSrc, int srcStep, Kvr32f* pDst, int dstStep, KvriSize roiSize, Kvr32f threshold, Kvr32f value);
+KvrStatus kvriThreshold_LTVal_32f_C3R(const Kvr32f* pSrc, int srcStep, Kvr32f* pDst, int dstStep, KvriSize roiSize, const Kvr32f threshold[3], const Kvr32f value[3]);
+KvrStatus kvriThreshold_LTVal_32f_C4R(const Kvr32f* pSrc, int srcStep, Kvr32f* pDst, int dstStep, KvriSize roiSize, const Kvr32f threshold[4], const Kvr32f value[4]);
+KvrStatus kvriThreshold_LTVal_32f_AC4R(const Kvr32f* pSrc, int srcStep, Kvr32f* pDst, int dstStep, KvriSize roiSize, const Kvr32f threshold[3], const Kvr32f value[3]);
+KvrStatus kvriThreshold_LTVal_32f_C1IR(Kvr32f* pSrcDst, int srcDstStep, KvriSize roiSize, Kvr32f threshold, Kvr32f value);
+KvrStatus kvriThreshold_LTVal_32f_C3IR(Kvr32f* pSrcDst, int srcDstStep, KvriSize roiSize, const Kvr32f threshold[3], const Kvr32f value[3]);
+KvrStatus kvriThreshold_LTVal_32f_C4IR(Kvr32f* pSrcDst, int srcDstStep, KvriSize roiSize, const Kvr32f threshold[4], const Kvr32f value[4]);
+KvrStatus kvriThreshold_LTVal_32f_AC4IR(Kvr32f* pSrcDst, int srcDstStep, KvriSize roiSize, const Kvr32f threshold[3], const Kvr32f value[3]);
+
+/* Threshold_LTValGTVal - samples below thresholdLT become valueLT, samples above thresholdGT become valueGT; what has become
+ * valueLT is not compared again. 32f: a NaN sample is kept.
+ * Errors, in this order: null pointer -8 (the arrays count), width or height below 1 -6, step below 1 -14, a thresholdGT below
+ * its thresholdLT -18. */
+KvrStatus kvriThreshold_LTValGTVal_8u_C1R(const Kvr8u* pSrc, int srcStep, Kvr8u* pDst, int dstStep, KvriSize roiSize, Kvr8u thresholdLT, Kvr8u valueLT, Kvr8u thresholdGT, Kvr8u valueGT);
+KvrStatus kvriThreshold_LTValGTVal_8u_C3R(const Kvr8u* pSrc, int srcStep, Kvr8u* pDst, int dstStep, KvriSize roiSize, const Kvr8u thresholdLT[3], const Kvr8u valueLT[3], const Kvr8u thresholdGT[3], const Kvr8u valueGT[3]);
+KvrStatus kvriThreshold_LTValGTVal_8u_AC4R(const Kvr8u* pSrc, int srcStep, Kvr8u* pDst, int dstStep, KvriSize roiSize, const Kvr8u thresholdLT[3], const Kvr8u valueLT[3], const Kvr8u thresholdGT[3], const Kvr8u valueGT[3]);
+KvrStatus kvriThreshold_LTValGTVal_8u_C1IR(Kvr8u* pSrcDst, int srcDstStep, KvriSize roiSize, Kvr8u thresholdLT, Kvr8u valueLT, Kvr8u thresholdGT, Kvr8u valueGT);
+KvrStatus kvriThreshold_LTValGTVal_8u_C3IR(Kvr8u* pSrcDst, int srcDstStep, KvriSize roiSize, const Kvr8u thresholdLT[3], const Kvr8u valueLT[3], const Kvr8u thresholdGT[3], const Kvr8u valueGT[3]);
+KvrStatus kvriThreshold_LTValGTVal_8u_AC4IR(Kvr8u* pSrcDst, int srcDstStep, KvriSize roiSize, const Kvr8u thresholdLT[3], const Kvr8u valueLT[3], const Kvr8u thresholdGT[3], const Kvr8u valueGT[3]);
+KvrStatus kvriThreshold_LTValGTVal_16u_C1R(const Kvr16u* pSrc, int srcStep, Kvr16u* pDst, int dstStep, KvriSize roiSize, Kvr16u thresholdLT, Kvr16u valueLT, Kvr16u thresholdGT, Kvr16u valueGT);
+KvrStatus kvriThreshold_LTValGTVal_16u_C3R(const Kvr16u* pSrc, int srcStep, Kvr16u* pDst, int dstStep, KvriSize roiSize, const Kvr16u thresholdLT[3], const Kvr16u valueLT[3], const Kvr16u thresholdGT[3], const Kvr16u valueGT[3]);
+KvrStatus kvriThreshold_LTValGTVal_16u_AC4R(const Kvr16u* pSrc, int srcStep, Kvr16u* pDst, int dstStep, KvriSize roiSize, const Kvr16u thresholdLT[3], const Kvr16u valueLT[3], const Kvr16u thresholdGT[3], const Kvr16u valueGT[3]);
+KvrStatus kvriThreshold_LTValGTVal_16u_C1IR(Kvr16u* pSrcDst, int srcDstStep, KvriSize roiSize, Kvr16u thresholdLT, Kvr16u valueLT, Kvr16u thresholdGT, Kvr16u valueGT);
+KvrStatus kvriThreshold_LTValGTVal_16u_C3IR(Kvr16u* pSrcDst, int srcDstStep, KvriSize roiSize, const Kvr16u thresholdLT[3], const Kvr16u valueLT[3], const Kvr16u thresholdGT[3], const Kvr16u valueGT[3]);
+KvrStatus kvriThreshold_LTValGTVal_16u_AC4IR(Kvr16u* pSrcDst, int srcDstStep, KvriSize roiSize, const Kvr16u thresholdLT[3], const Kvr16u valueLT[3], const Kvr16u thresholdGT[3], const Kvr16u valueGT[3]);
+KvrStatus kvriThreshold_LTValGTVal_16s_C1R(const Kvr16s* pSrc, int srcStep, Kvr16s* pDst, int dstStep, KvriSize roiSize, Kvr16s thresholdLT, Kvr16s valueLT, Kvr16s thresholdGT, Kvr16s valueGT);
+KvrStatus kvriThreshold_LTValGTVal_16s_C3R(const Kvr16s* pSrc, int srcStep, Kvr16s* pDst, int dstStep, KvriSize roiSize, const Kvr16s thresholdLT[3], const Kvr16s valueLT[3], const Kvr16s thresholdGT[3], const Kvr16s valueGT[3]);
+KvrStatus kvriThreshold_LTValGTVal_16s_AC4R(const Kvr16s* pSrc, int srcStep, Kvr16s* pDst, int dstStep, KvriSize roiSize, const Kvr16s thresholdLT[3], const Kvr16s valueLT[3], const Kvr16s thresholdGT[3], const Kvr16s valueGT[3]);
+KvrStatus kvriThreshold_LTValGTVal_16s_C1IR(Kvr16s* pSrcDst, int srcDstStep, KvriSize roiSize, Kvr16s thresholdLT, Kvr16s valueLT, Kvr16s thresholdGT, Kvr16s valueGT);
+KvrStatus kvriThreshold_LTValGTVal_16s_C3IR(Kvr16s* pSrcDst, int srcDstStep, KvriSize roiSize, const Kvr16s thresholdLT[3], const Kvr16s valueLT[3], const Kvr16s thresholdGT[3], const Kvr16s valueGT[3]);
+KvrStatus kvriThreshold_LTValGTVal_16s_AC4IR(Kvr16s* pSrcDst, int srcDstStep, KvriSize roiSize, const Kvr16s thresholdLT[3], const Kvr16s valueLT[3], const Kvr16s thresholdGT[3], const Kvr16s valueGT[3]);
+KvrStatus kvriThreshold_LTValGTVal_32f_C1R(const Kvr32f* pSrc, int srcStep, Kvr32f* pDst, int dstStep, KvriSize roiSize, Kvr32f thresholdLT, Kvr32f valueLT, Kvr32f thresholdGT, Kvr32f valueGT);
+KvrStatus kvriThreshold_LTValGTVal_32f_C3R(const Kvr32f* pSrc, int srcStep, Kvr32f* pDst, int dstStep, KvriSize roiSize, const Kvr32f thresholdLT[3], const Kvr32f valueLT[3], const Kvr32f thresholdGT[3], const Kvr32f valueGT[3]);
+KvrStatus kvriThreshold_LTValGTVal_32f_AC4R(const Kvr32f* pSrc, int srcStep, Kvr32f* pDst, int dstStep, KvriSize roiSize, const Kvr32f thresholdLT[3], const Kvr32f valueLT[3], const Kvr32f thresholdGT[3], const Kvr32f valueGT[3]);
+KvrStatus kvriThreshold_LTValGTVal_32f_C1IR(Kvr32f* pSrcDst, int srcDstStep, KvriSize roiSize, Kvr32f thresholdLT, Kvr32f valueLT, Kvr32f thresholdGT, Kvr32f valueGT);
+KvrStatus kvriThreshold_LTValGTVal_32f_C3IR(Kvr32f* pSrcDst, int srcDstStep, KvriSize roiSize, const Kvr32f thresholdLT[3], const Kvr32f valueLT[3], const Kvr32f thresholdGT[3], const Kvr32f valueGT[3]);
+KvrStatus kvriThreshold_LTValGTVal_32f_AC4IR(Kvr32f* pSrcDst, int srcDstStep, KvriSize roiSize, const Kvr32f thresholdLT[3], const Kvr32f valueLT[3], const Kvr32f thresholdGT[3], const Kvr32f valueGT[3]);
+
+/* ComputeThreshold_Otsu - the threshold t that separates the samples up to t from those above it best: with the largest
+ * variance between the two classes, the smallest such t; 0 for an image of one level.
+ * (N. Otsu, A threshold selection method from gray-level histograms, IEEE Trans. SMC 9, 1979.)
+ * Errors, in this order: null pointer -8, width or height below 1 -6, a step below the width -14. */
+KvrStatus kvriComputeThreshold_Otsu_8u_C1R(const Kvr8u* pSrc, int srcStep, KvriSize roiSize, Kvr8u* pThreshold);
 
 #pragma GCC visibility pop
 #ifdef __cplusplus
