@@ -76,14 +76,20 @@ void flipRows(Image<const uint8_t> src, Image<uint8_t> dst, KvriSize roi) {
 
 template <int B, int Chosen>
 void reverseRows(Image<const uint8_t> src, Image<uint8_t> dst, ptrdiff_t width, ptrdiff_t height, bool streamed) {
-    constexpr int W = kReversalBytes<B>;
-    const bool few = inFewBlocks<Reversal<B, W>::pixels>(width, [&](auto... first) KVRI_INLINE {
+    using R = Reversal<B, kReversalBytes<B>>;
+    const bool few = inFewBlocks<R::pixels>(width, [&](auto... first) KVRI_INLINE {
         eachRowPlain(src, dst, height, [=](const uint8_t* s, uint8_t* d) KVRI_INLINE {
-            (reverseBlock<B, Chosen, W>(s, d, width, first), ...);
+            // All loads first: one after a store to an address that differs by a multiple of 4096 would wait for it.
+            typename R::V v[sizeof...(first)][R::vectors];
+            int i = 0, j = 0;
+            (R::load(s + (width - first - R::pixels) * B, v[i++]), ...);
+            (R::template store<Chosen>(WholeBlock{}, d + first * B, v[j++]), ...);
         });
     });
     if (few) return;
     eachRowPlain(src, dst, height, [=](const uint8_t* s, uint8_t* d) KVRI_INLINE {
+        // Rows are read backwards, so the next one's end is far from anything read before.
+        for (int i = 1; i <= 8; ++i) __builtin_prefetch(s + src.step + width * B - 64 * i);
         if (Chosen == B && streamed) streamReversedRow<B>(s, d, width);
         else reverseRow<B, Chosen>(s, d, width);
     });
