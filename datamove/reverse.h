@@ -124,9 +124,10 @@ KVRI_INLINE inline void reverseRow(const uint8_t* src, uint8_t* dst, ptrdiff_t p
             R::load(src + (pixels - first - R::pixels) * P, v);
             R::template store<Chosen>(WholeBlock{}, dst + first * P, v);
         };
-        ptrdiff_t first = 0;
-        for (; first <= pixels - R::pixels; first += R::pixels) block(first);
-        if (first < pixels) block(pixels - R::pixels);
+        // Forwards through the source, as the caches expect it.
+        ptrdiff_t left = pixels;
+        for (; left >= R::pixels; left -= R::pixels) block(left - R::pixels);
+        if (left > 0) block(0);
     } else if constexpr (W > 16) {
         reverseRow<P, Chosen, W / 2>(src, dst, pixels);
     } else if constexpr (R::pixels > 1) {

@@ -18,10 +18,8 @@
 namespace kvri {
 
 template <class T>
-Image<T> upsideDown(Image<T> image, ptrdiff_t height) {
-    image.row += (height - 1) * image.step;
-    image.step = -image.step;
-    return image;
+Image<T> upsideDown(const Image<T>& image, ptrdiff_t height) {
+    return {image.row + (height - 1) * image.step, -image.step, image.pixelBytes};
 }
 
 template <class T>
