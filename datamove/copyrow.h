@@ -24,7 +24,7 @@ inline void streamRow(const uint8_t* src, uint8_t* dst, ptrdiff_t bytes) {
 }
 
 template <int B>
-void copyRows(Image<const uint8_t> src, Image<uint8_t> dst, KvriSize roi, bool streamed) {
+void copyRows(const Image<const uint8_t>& src, const Image<uint8_t>& dst, KvriSize roi, bool streamed) {
     if (streamed) eachRow(roi, [](auto s, auto d, ptrdiff_t pixels) KVRI_INLINE { streamRow(s, d, pixels * B); }, src, dst);
     else eachRow(roi, [](auto s, auto d, ptrdiff_t pixels) KVRI_INLINE { copyRow(s, d, pixels * B); }, src, dst);
 }

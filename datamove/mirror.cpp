@@ -49,18 +49,18 @@ KVRI_INLINE inline bool inFewBlocks(ptrdiff_t length, Rows rows) {
 }
 
 template <class Row>
-KVRI_INLINE inline void eachRowPlain(Image<const uint8_t> src, Image<uint8_t> dst, ptrdiff_t height, Row row) {
+KVRI_INLINE inline void eachRowPlain(const Image<const uint8_t>& src, const Image<uint8_t>& dst, ptrdiff_t height, Row row) {
     const uint8_t* s = src.row;
     uint8_t* d = dst.row;
-    for (;; s += src.step, d += dst.step) {
+    for (ptrdiff_t srcStep = src.step, dstStep = dst.step;; s += srcStep, d += dstStep) {
         row(s, d);
         if (--height == 0) return;
     }
 }
 
 template <int B, int Chosen>
-void flipRows(Image<const uint8_t> src, Image<uint8_t> dst, KvriSize roi) {
-    dst = upsideDown(dst, roi.height);
+void flipRows(const Image<const uint8_t>& src, const Image<uint8_t>& image, KvriSize roi) {
+    const auto dst = upsideDown(image, roi.height);
     if constexpr (Chosen == B) {
         const bool few = inFewBlocks<kVectorBytes>(ptrdiff_t(roi.width) * B, [&](auto... first) KVRI_INLINE {
             eachRowPlain(src, dst, roi.height, [=](const uint8_t* s, uint8_t* d) KVRI_INLINE {
@@ -75,11 +75,15 @@ void flipRows(Image<const uint8_t> src, Image<uint8_t> dst, KvriSize roi) {
 }
 
 template <int B, int Chosen>
-void reverseRows(Image<const uint8_t> src, Image<uint8_t> dst, ptrdiff_t width, ptrdiff_t height, bool streamed) {
-    constexpr int W = kReversalBytes<B>;
-    const bool few = inFewBlocks<Reversal<B, W>::pixels>(width, [&](auto... first) KVRI_INLINE {
+void reverseRows(const Image<const uint8_t>& src, const Image<uint8_t>& dst, ptrdiff_t width, ptrdiff_t height, bool streamed) {
+    using R = Reversal<B, kReversalBytes<B>>;
+    const bool few = inFewBlocks<R::pixels>(width, [&](auto... first) KVRI_INLINE {
         eachRowPlain(src, dst, height, [=](const uint8_t* s, uint8_t* d) KVRI_INLINE {
-            (reverseBlock<B, Chosen, W>(s, d, width, first), ...);
+            // All loads first: one after a store to an address that differs by a multiple of 4096 would wait for it.
+            typename R::V v[sizeof...(first)][R::vectors];
+            int i = 0, j = 0;
+            (R::load(s + (width - first - R::pixels) * B, v[i++]), ...);
+            (R::template store<Chosen>(WholeBlock{}, d + first * B, v[j++]), ...);
         });
     });
     if (few) return;
@@ -91,7 +95,7 @@ void reverseRows(Image<const uint8_t> src, Image<uint8_t> dst, ptrdiff_t width, 
 }
 
 template <int B, int Chosen>
-void mirrorImage(Image<const uint8_t> src, Image<uint8_t> dst, KvriSize roi, KvriAxis axis) {
+void mirrorImage(const Image<const uint8_t>& src, const Image<uint8_t>& dst, KvriSize roi, KvriAxis axis) {
     if (axis == kvrAxisHorizontal) return flipRows<B, Chosen>(src, dst, roi);
     const ptrdiff_t width = roi.width, height = roi.height;
     const bool streamed = exceedsCache(roi, 2 * B);
@@ -142,13 +146,13 @@ void swapRows(uint8_t* a, uint8_t* b, ptrdiff_t pixels) {
 
 // Calls swap(row, row) for the first and the last row, the second and the last but one, and so on.
 template <class Swap>
-void eachRowPair(Image<uint8_t> image, ptrdiff_t height, Swap swap) {
-    Image<uint8_t> last = upsideDown(image, height);
-    for (ptrdiff_t pairs = height / 2; pairs > 0; --pairs, image.advance(), last.advance()) swap(image.row, last.row);
+void eachRowPair(const Image<uint8_t>& image, ptrdiff_t height, Swap swap) {
+    uint8_t *first = image.row, *last = upsideDown(image, height).row;
+    for (ptrdiff_t pairs = height / 2; pairs > 0; --pairs, first += image.step, last -= image.step) swap(first, last);
 }
 
 template <int B, int Chosen>
-void turnInPlace(Image<uint8_t> image, ptrdiff_t width, ptrdiff_t height) {
+void turnInPlace(const Image<uint8_t>& image, ptrdiff_t width, ptrdiff_t height) {
     if (image.contiguous(width)) width *= height, height = 1;
     eachRowPair(image, height, [&](uint8_t* a, uint8_t* b) KVRI_INLINE { swapReversed<B, Chosen>(a, b + width * B, width); });
     if (height % 2 == 0) return;
@@ -157,15 +161,15 @@ void turnInPlace(Image<uint8_t> image, ptrdiff_t width, ptrdiff_t height) {
 }
 
 template <int B, int Chosen>
-void mirrorImageInPlace(Image<uint8_t> image, KvriSize roi, KvriAxis axis) {
+void mirrorImageInPlace(const Image<uint8_t>& image, KvriSize roi, KvriAxis axis) {
     const ptrdiff_t width = roi.width, height = roi.height;
     if (axis == kvrAxisBoth) return turnInPlace<B, Chosen>(image, width, height);
     constexpr int unit = Chosen == B ? 1 : B;  // whole pixels are as good as bytes
     if (axis == kvrAxisHorizontal)
         return eachRowPair(image, height, [&](uint8_t* a, uint8_t* b) { swapRows<unit, Chosen == B ? 1 : Chosen>(a, b, width * (B / unit)); });
-    for (ptrdiff_t y = 0;; image.advance()) {
-        swapReversed<B, Chosen>(image.row, image.row + width * B, width / 2);
-        if (++y == height) return;
+    for (ptrdiff_t y = 0; y < height; ++y) {
+        uint8_t* row = image.row + y * image.step;
+        swapReversed<B, Chosen>(row, row + width * B, width / 2);
     }
 }
 

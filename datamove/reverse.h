@@ -115,21 +115,19 @@ struct ReversedPart {
 };
 
 // dst pixel i is src pixel (pixels - 1 - i); the rows do not overlap.
-template <int P, int Chosen, int W>
-KVRI_INLINE inline void reverseBlock(const uint8_t* src, uint8_t* dst, ptrdiff_t pixels, ptrdiff_t first) {
-    using R = Reversal<P, W>;
-    typename R::V v[R::vectors];
-    R::load(src + (pixels - first - R::pixels) * P, v);
-    R::template store<Chosen>(WholeBlock{}, dst + first * P, v);
-}
-
 template <int P, int Chosen = P, int W = kReversalBytes<P>>
 KVRI_INLINE inline void reverseRow(const uint8_t* src, uint8_t* dst, ptrdiff_t pixels) {
     using R = Reversal<P, W>;
     if (pixels >= R::pixels) {
-        ptrdiff_t first = 0;
-        for (; first <= pixels - R::pixels; first += R::pixels) reverseBlock<P, Chosen, W>(src, dst, pixels, first);
-        if (first < pixels) reverseBlock<P, Chosen, W>(src, dst, pixels, pixels - R::pixels);
+        const auto block = [&](ptrdiff_t first) KVRI_INLINE {
+            typename R::V v[R::vectors];
+            R::load(src + (pixels - first - R::pixels) * P, v);
+            R::template store<Chosen>(WholeBlock{}, dst + first * P, v);
+        };
+        // Forwards through the source, as the caches expect it.
+        ptrdiff_t left = pixels;
+        for (; left >= R::pixels; left -= R::pixels) block(left - R::pixels);
+        if (left > 0) block(0);
     } else if constexpr (W > 16) {
         reverseRow<P, Chosen, W / 2>(src, dst, pixels);
     } else if constexpr (R::pixels > 1) {

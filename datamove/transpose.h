@@ -18,10 +18,8 @@
 namespace kvri {
 
 template <class T>
-Image<T> upsideDown(Image<T> image, ptrdiff_t height) {
-    image.row += (height - 1) * image.step;
-    image.step = -image.step;
-    return image;
+Image<T> upsideDown(const Image<T>& image, ptrdiff_t height) {
+    return {image.row + (height - 1) * image.step, -image.step, image.pixelBytes};
 }
 
 template <class T>
@@ -217,7 +215,7 @@ KVRI_INLINE inline void transposeRegion(const uint8_t* src, ptrdiff_t srcStep, u
 // cache lines long.
 template <int B>
 struct Tile {
-    static constexpr ptrdiff_t rows = B <= 2 || B == 4 ? 128 : B <= 8 ? 64 : 32, columns = B == 1 ? 128 : B <= 8 ? 64 : 32;
+    static constexpr ptrdiff_t rows = B <= 2 || B == 4 ? 128 : B <= 8 ? 64 : 16, columns = B == 1 ? 128 : B <= 8 ? 64 : 16;
     static constexpr ptrdiff_t step = columns * B, bytes = rows * step;
 };
 
@@ -283,9 +281,9 @@ void transposeTiles(const uint8_t* src, ptrdiff_t srcStep, uint8_t* dst, ptrdiff
 template <int B, int Chosen = B>
 void transposeImage(const Image<const uint8_t>& src, const Image<uint8_t>& dst, KvriSize roi) {
     using Narrow = TransposedBlock<B, 16>;
-    constexpr ptrdiff_t firstLevelCache = 32768;
+    constexpr ptrdiff_t worthTiles = 49152;  // smaller ones are near enough in the first two caches
     const ptrdiff_t columns = roi.width, rows = roi.height;
-    if (columns * rows * B > firstLevelCache && columns >= Narrow::columns && rows >= Narrow::rows)
+    if (columns * rows * B > worthTiles && columns >= Narrow::columns && rows >= Narrow::rows)
         transposeTiles<B, Chosen>(src.row, src.step, dst.row, dst.step, columns, rows, exceedsCache(roi, 4 * B));
     else
         transposeRegion<B, Chosen>(src.row, src.step, dst.row, dst.step, columns, rows);
