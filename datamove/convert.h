@@ -98,24 +98,24 @@ private:
     const uint8_t* src_;
     uint8_t* dst_;
 
-    template <class F>
+    template <int n, class F>
     KVRI_INLINE static auto mapped(const V* work, F f) {
-        std::array<decltype(f(work[0])), works> result;
-        unroll<works>([&](auto i) KVRI_INLINE { result[i] = f(work[i]); });
+        std::array<decltype(f(work[0])), n> result;
+        unroll<n>([&](auto i) KVRI_INLINE { result[i] = f(work[i]); });
         return result;
     }
 
-    // Vector i of the target.
-    template <class R, size_t n>
-    KVRI_INLINE Vec<T> target(const std::array<R, n>& result, const V* work, int i) const {
+    // One vector of the target.
+    template <class R>
+    KVRI_INLINE Vec<T> target(const R* result, const V* work) const {
         if constexpr (perTarget == 1) {
-            return (Vec<T>)result[i];
+            return (Vec<T>)result[0];
         } else {
-            auto halves = halvesOf<perTarget>(result.data() + i * perTarget);
+            auto halves = halvesOf<perTarget>(result);
             if constexpr (requires { op_.careful(work[0]); }) {
                 using Half = typename decltype(halves)::value_type;
                 if (anyEqual(smaller(halves[0], halves[1]), splat<Half>(std::numeric_limits<ElementOf<Half>>::min()))) [[unlikely]]
-                    halves = halvesOf<perTarget>(mapped(work, [&](V v) KVRI_INLINE { return op_.careful(v); }).data());
+                    halves = halvesOf<perTarget>(mapped<perTarget>(work, [&](V v) KVRI_INLINE { return op_.careful(v); }).data());
             }
             return unpackedOrder<perTarget>(narrow<T>(halves[0], halves[1]));
         }
@@ -132,10 +132,10 @@ public:
             const ptrdiff_t at = i * loadedBytes;
             widen<Work>(block.template load<Vec<S, loadedBytes>>(src + at, n * ptrdiff_t(sizeof(S)) - at), work + i * works / loads);
         });
-        const auto result = mapped(work, op_);
+        const auto result = mapped<works>(work, op_);
         unroll<works / perTarget>([&](auto i) KVRI_INLINE {
             constexpr int at = i * kVectorBytes, pixel = 4 * sizeof(T), colours = 3 * sizeof(T);
-            const Bytes<> v = (Bytes<>)target(result, work, i);
+            const Bytes<> v = (Bytes<>)target(result.data() + i * perTarget, work + i * perTarget);
             const ptrdiff_t bytes = n * ptrdiff_t(sizeof(T)) - at;
             if constexpr (Alpha) block.storeChosen(dst + at, v, choose<Bytes<>>(IsChosen<pixel, colours, i>{}), bytes);
             else block.store(dst + at, v, bytes);

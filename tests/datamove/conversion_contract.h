@@ -11,7 +11,7 @@
 namespace test::conversions::contract {
 
 // Holds every sample of every type exactly, and its multiples by powers of two.
-using Number = long double;
+using Number = double;
 
 template <class T>
 T loadAs(const uint8_t* p) {
@@ -39,47 +39,54 @@ inline Number most(Type t) { return std::ldexp(Number(1), 8 * bytesOf(t) - isSig
 
 inline Number rounded(Number v, int mode) {
     if (mode == 0) return std::trunc(v);
-    if (mode != 1) return std::round(v);
-    const Number below = std::floor(v), rest = v - below;
-    return below + (rest > 0.5L || (rest == 0.5L && std::fmod(below, 2) != 0));
+    return mode == 1 ? std::rint(v) : std::round(v);  // called under the default rounding mode, to nearest
 }
 
 inline Number fitted(Number v, Type t) { return std::isnan(v) ? 0 : std::clamp(v, least(t), most(t)); }
 
-// What an integer destination's sample must be.
-inline Number integer(const Case& c, const Call& call, const uint8_t* src) {
-    const Number v = load(c.src, src);
-    if (c.dropsNegatives) return std::max<Number>(v, 0);
-    if (c.stretches && c.src == Type::F32) {
-        volatile float k = 255 / (call.most - call.least), product = loadAs<float>(src) * k, offset = call.least * k;
-        volatile float difference = product - offset;
-        return fitted(rounded(difference, 1), c.dst);
-    }
-    if (c.stretches)
-        return rounded((v - least(c.src)) * (most(c.dst) - least(c.dst)) / (most(c.src) - least(c.src)) + least(c.dst), 1);
-    const Number scaled = std::ldexp(v, -std::clamp(c.scales ? call.scale : 0, -1000, 1000));
-    return fitted(rounded(scaled, call.mode), c.dst);
-}
+// The rules of one call.
+class Rules {
+    const Case& case_;
+    Call call_;
+    Number factor_, srcLeast_, dstLeast_, stretch_;
 
-// What a 32f destination's sample must be, by the rounding mode that is set.
-inline float floating(const Case& c, const Call& call, const uint8_t* src) {
-    if (c.stretches) {
-        volatile float difference = call.most - call.least;
-        volatile float step = difference / 255, product = float(*src) * step;
-        return call.least + product;
+    Number integer(const uint8_t* src) const {
+        if (case_.stretches && case_.src == Type::F32) {
+            volatile float k = 255 / (call_.most - call_.least), product = loadAs<float>(src) * k, offset = call_.least * k;
+            volatile float difference = product - offset;
+            return fitted(rounded(difference, 1), case_.dst);
+        }
+        const Number v = load(case_.src, src);
+        if (case_.dropsNegatives) return std::max<Number>(v, 0);
+        if (case_.stretches) return rounded((v - srcLeast_) * stretch_ + dstLeast_, 1);
+        return fitted(rounded(v * factor_, call_.mode), case_.dst);
     }
-    volatile int64_t v = int64_t(load(c.src, src));
-    return float(v);
-}
 
-inline void convert(const Case& c, const Call& call, const uint8_t* src, uint8_t* dst) {
-    if (c.dst == Type::F32) {
-        const float f = floating(c, call, src);
-        std::memcpy(dst, &f, 4);
-    } else {
-        const int64_t n = int64_t(integer(c, call, src));
-        std::memcpy(dst, &n, size_t(bytesOf(c.dst)));
+    // By the rounding mode that is set.
+    float floating(const uint8_t* src) const {
+        if (case_.stretches) {
+            volatile float difference = call_.most - call_.least;
+            volatile float step = difference / 255, product = float(*src) * step;
+            return call_.least + product;
+        }
+        volatile int64_t v = int64_t(load(case_.src, src));
+        return float(v);
     }
-}
+
+public:
+    Rules(const Case& c, const Call& call)
+        : case_(c), call_(call), factor_(std::ldexp(Number(1), -std::clamp(c.scales ? call.scale : 0, -400, 400))),
+          srcLeast_(least(c.src)), dstLeast_(least(c.dst)), stretch_((most(c.dst) - dstLeast_) / (most(c.src) - srcLeast_)) {}
+
+    void convert(const uint8_t* src, uint8_t* dst) const {
+        if (case_.dst == Type::F32) {
+            const float f = floating(src);
+            std::memcpy(dst, &f, 4);
+        } else {
+            const int64_t n = int64_t(integer(src));
+            std::memcpy(dst, &n, size_t(bytesOf(case_.dst)));
+        }
+    }
+};
 
 }  // namespace test::conversions::contract

@@ -111,13 +111,14 @@ struct Scene {
     std::vector<uint8_t> expected(unsigned control) const {
         std::optional<FloatControl> callers;
         if (c.dst == Type::F32) callers.emplace(control);  // others do not depend on it
+        const contract::Rules rules(c, call);
         auto want = dst.memory();
         for (int y = 0; y < call.roi.height; ++y)
             for (int x = 0; x < call.roi.width; ++x) {
                 for (int k = 0; k < c.colours && !c.hasBits(); ++k) {
                     const int sample = x * c.channels + k;
-                    contract::convert(c, call, (c.inPlace ? dst : src).row(y) + sample * bytesOf(c.src),
-                                      want.data() + dst.position(y, sample * bytesOf(c.dst)));
+                    rules.convert((c.inPlace ? dst : src).row(y) + sample * bytesOf(c.src),
+                                  want.data() + dst.position(y, sample * bytesOf(c.dst)));
                 }
                 const int bit = call.bitOffset % 8 + x;
                 if (c.hasBits()) want[dst.position(y, x)] = src.row(y)[bit / 8] & 0x80 >> bit % 8 ? 255 : 0;
@@ -167,29 +168,32 @@ TEST(Convert, MatchesTheContract) {
 // Destinations that are streamed: with rows that reach alignment and rows that do not.
 TEST(Convert, MatchesTheContractOnLargeImages) {
     for (const Case& c : kCases)
-        for (unsigned seed = 0; seed < 2; ++seed) {
+        for (unsigned seed = 0; seed < (c.channels == 1 ? 2 : 0); ++seed) {
             Random random(seed);
             const int height = random.in(20, 40);
-            Scene scene(c, {(1 << 20) / height / c.channels / (bytesOf(c.src) + bytesOf(c.dst)) + random.in(2, 90), height}, random);
+            Scene scene(c, {(9 << 16) / height / c.channels / (bytesOf(c.src) + bytesOf(c.dst)) + random.in(2, 90), height}, random);
             expectResult(scene);
             if (HasFatalFailure()) FAIL() << "seed " << seed;
         }
 }
 
-// Runs a case with samples in every rounding mode and, where it has one, with every scale factor that makes a difference.
+// Runs a case with samples in every rounding mode and, where it has one, with every scale factor that makes a difference. Above
+// `few` in magnitude some of the first samples do.
 template <class F>
-void expectForEveryScale(const Case& c, int samples, F sample) {
+void expectForEveryScale(const Case& c, int samples, F sample, int few = INT32_MAX) {
     std::vector<int> scales = {0};
     if (c.scales) {
         for (int s = -40; s <= 40; ++s) scales.push_back(s);
         for (int s : {INT32_MIN, -182, -149, -127, -126, 64, 126, 127, 128, 129, INT32_MAX}) scales.push_back(s);
     }
     Random random(1);
-    Scene scene(c, {256, (samples + 255) / 256}, random);
+    const int rows = (samples + 255) / 256;
+    Scene scene(c, {256, rows}, random);
     for (int scale : scales)
         for (int mode = 0; mode < (c.hasMode() ? 3 : 1); ++mode) {
             scene.call.scale = scale;
             scene.call.mode = mode;
+            scene.call.roi.height = scale > few || scale < -few ? (rows + 15) / 16 : rows;
             scene.fill([&](int i) { return sample(i, scale); });
             expectResult(scene);
             if (testing::Test::HasFatalFailure()) return;
@@ -199,7 +203,7 @@ void expectForEveryScale(const Case& c, int samples, F sample) {
 TEST(Convert, EverySampleOfUpTo16Bits) {
     for (const Case& c : kCases) {
         if (c.channels != 1 || c.hasBits() || bytesOf(c.src) > 2) continue;
-        expectForEveryScale(c, 1 << 8 * bytesOf(c.src), [](int i, int) { return i; });
+        expectForEveryScale(c, 1 << 8 * bytesOf(c.src), [](int i, int) { return i * 0x9E35; }, 18);  // in another order
         if (HasFatalFailure()) return;
     }
 }
