@@ -214,6 +214,8 @@ void lut(const Curve<T> (&curves)[L::colours], const Images& images) {
     if constexpr (std::is_same_v<T, Kvr32f>) {
         Family::template mapFloats<L>(curves, images);
     } else if constexpr (std::is_same_v<T, Kvr8u>) {
+        if constexpr (Family::hasSteps)
+            if (Family::template mapFewSteps<L>(curves, images)) return;
         ByteTable tables[L::colours];
         for (int c = 0; c < L::colours; ++c) {
             Kvr8u table[256];

@@ -85,7 +85,8 @@ public:
 };
 
 struct Cubic {
-    static constexpr double compareCost = 5, levelCost = 0.25, lookUpCost = 2, tableCost = 120000;
+    static constexpr bool hasSteps = false;
+    static constexpr double compareCost = 5, levelCost = 0.25, lookUpCost = 2, tableCost = 80000 + 2560000 / kVectorBytes;
 
     template <class T>
     struct Piece : Polynomial {
