@@ -179,8 +179,8 @@ template <class Family, class T, class L>
     images.eachRow<B>([&](const uint8_t* s, uint8_t* d, ptrdiff_t pixels) {
         forEachRun(pixels, [&](ptrdiff_t first, ptrdiff_t n) {
             T number[kRun * L::channels];
-            mapChannels<T, L>([&](auto x, auto c) KVRI_INLINE { return pieces[c].number(x, Vec<T>{}); }, s + first * B,
-                              reinterpret_cast<uint8_t*>(number), n);
+            mapChannels<T, L, false>([&](auto x, auto c) KVRI_INLINE { return pieces[c].number(x, Vec<T>{}); },
+                                     s + first * B, reinterpret_cast<uint8_t*>(number), n);
             mapSamples<T, L>([&](auto c, ptrdiff_t i, T x) KVRI_INLINE { return pieces[c].piece[number[i]](x); },
                              s + first * B, d + first * B, n);
         });
