@@ -65,8 +65,9 @@ struct PlanesOf {
     }
 };
 
-// op(vector of samples, channel as a constant) gives the result's vector. L: layout of both rows.
-template <class T, class L, class Op>
+// op(vector of samples, channel as a constant) gives the result's vector. L: layout of both rows. A channel that is not
+// processed stays as it is in the destination, or becomes the source's.
+template <class T, class L, bool Keeps = L::colours != L::channels, class Op>
 KVRI_INLINE inline void mapChannels(const Op& op, const uint8_t* src, uint8_t* dst, ptrdiff_t pixels) {
     constexpr int S = sizeof(T), N = kVectorBytes / S;
     using V = Vec<T>;
@@ -83,7 +84,7 @@ KVRI_INLINE inline void mapChannels(const Op& op, const uint8_t* src, uint8_t* d
             Planes::load(plane, src + first * B, block, n * B);
             unroll<L::colours>([&](auto c) KVRI_INLINE { plane[c] = (Bytes<>)op((V)plane[c], c); });
             Planes::store(plane, dst + first * B, n * B, [&](uint8_t* d, auto v, ptrdiff_t bytes) KVRI_INLINE {
-                if constexpr (L::colours == L::channels) block.store(d, v, bytes);
+                if constexpr (!Keeps) block.store(d, v, bytes);
                 else block.storeChosen(d, v, choose<decltype(v)>(IsChosen<B, L::colours * S, 0>{}), bytes);
             });
         });

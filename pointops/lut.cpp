@@ -6,7 +6,42 @@
 namespace kvri {
 namespace {
 
+// Bytes of a curve that changes at most once within each sixteen: the upper half of a byte tells its value before and after
+// the level, and the level.
+class ByteSteps {
+    using V = Bytes<>;
+    V before_, level_, after_;
+
+public:
+    // Whether the curve is one of these.
+    bool prepare(const Curve<Kvr8u>& curve) {
+        constexpr int rows = 16;
+        if (curve.n > rows + 2 || !curve.rises() || curve.levels[0] > 0 || curve.levels[curve.n - 1] < 256) return false;
+        uint8_t before[rows], level[rows], after[rows];
+        int k = 0;
+        while (curve.levels[k + 1] <= 0) ++k;
+        for (int row = 0; row < rows; ++row) {
+            const int end = 16 * (row + 1);
+            before[row] = saturated<Kvr8u>(curve.values[k]);
+            level[row] = uint8_t(16 * row);
+            if (curve.levels[k + 1] < end) level[row] = uint8_t(curve.levels[++k]);
+            if (curve.levels[k + 1] < end) return false;
+            after[row] = saturated<Kvr8u>(curve.values[k]);
+        }
+        before_ = broadcastLane<V>(load<Bytes<16>>(before));
+        level_ = broadcastLane<V>(load<Bytes<16>>(level));
+        after_ = broadcastLane<V>(load<Bytes<16>>(after));
+        return true;
+    }
+
+    V operator()(V x) const {
+        const V row = (V)((Vec<uint16_t>)x >> 4) & 15;
+        return x >= shuffle(level_, row) ? shuffle(after_, row) : shuffle(before_, row);
+    }
+};
+
 struct Step {
+    static constexpr bool hasSteps = true;
     static constexpr double compareCost = 0.5, levelCost = 0.25, lookUpCost = 2, tableCost = 6000;
 
     template <class T>
@@ -19,6 +54,17 @@ struct Step {
     template <class T>
     static Piece<T> piece(const Curve<T>& curve, int k, Interval<T>) {
         return {saturated<T>(curve.values[k])};
+    }
+
+    template <class L>
+    static bool mapFewSteps(const Curve<Kvr8u> (&curves)[L::colours], const Images& images) {
+        std::array<ByteSteps, L::colours> steps;
+        for (int c = 0; c < L::colours; ++c)
+            if (!steps[c].prepare(curves[c])) return false;
+        images.eachRow<L::channels>([&](auto s, auto d, ptrdiff_t pixels) KVRI_INLINE {
+            mapChannels<Kvr8u, L>([steps](auto x, auto c) KVRI_INLINE { return steps[c](x); }, s, d, pixels);
+        });
+        return true;
     }
 
     template <class T, class L>

@@ -179,8 +179,8 @@ template <class Family, class T, class L>
     images.eachRow<B>([&](const uint8_t* s, uint8_t* d, ptrdiff_t pixels) {
         forEachRun(pixels, [&](ptrdiff_t first, ptrdiff_t n) {
             T number[kRun * L::channels];
-            mapChannels<T, L>([&](auto x, auto c) KVRI_INLINE { return pieces[c].number(x, Vec<T>{}); }, s + first * B,
-                              reinterpret_cast<uint8_t*>(number), n);
+            mapChannels<T, L, false>([&](auto x, auto c) KVRI_INLINE { return pieces[c].number(x, Vec<T>{}); },
+                                     s + first * B, reinterpret_cast<uint8_t*>(number), n);
             mapSamples<T, L>([&](auto c, ptrdiff_t i, T x) KVRI_INLINE { return pieces[c].piece[number[i]](x); },
                              s + first * B, d + first * B, n);
         });
@@ -214,6 +214,8 @@ void lut(const Curve<T> (&curves)[L::colours], const Images& images) {
     if constexpr (std::is_same_v<T, Kvr32f>) {
         Family::template mapFloats<L>(curves, images);
     } else if constexpr (std::is_same_v<T, Kvr8u>) {
+        if constexpr (Family::hasSteps)
+            if (Family::template mapFewSteps<L>(curves, images)) return;
         ByteTable tables[L::colours];
         for (int c = 0; c < L::colours; ++c) {
             Kvr8u table[256];

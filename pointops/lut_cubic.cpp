@@ -85,7 +85,8 @@ public:
 };
 
 struct Cubic {
-    static constexpr double compareCost = 5, levelCost = 0.25, lookUpCost = 2, tableCost = 120000;
+    static constexpr bool hasSteps = false;
+    static constexpr double compareCost = 5, levelCost = 0.25, lookUpCost = 2, tableCost = 80000 + 2560000 / kVectorBytes;
 
     template <class T>
     struct Piece : Polynomial {
@@ -127,7 +128,7 @@ private:
     // 1 more than the interval's index; 0 of samples in none.
     template <class L, bool Rises>
     static void numberRow(const Curve<Kvr32f> (&curves)[L::colours], const uint8_t* src, uint8_t* number, ptrdiff_t pixels) {
-        mapChannels<Kvr32f, L>([&](auto x, auto c) KVRI_INLINE {
+        mapChannels<Kvr32f, L, false>([&](auto x, auto c) KVRI_INLINE {
             Vec<int32_t> r{};
             const auto found = forEachInterval<Rises>(curves[c], x, [&](auto held, int k) KVRI_INLINE {
                 r = held ? splat<Vec<int32_t>>(k + 1) : r;

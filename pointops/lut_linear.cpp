@@ -7,7 +7,8 @@ namespace kvri {
 namespace {
 
 struct Linear {
-    static constexpr double compareCost = 3, levelCost = 0.25, lookUpCost = 2, tableCost = 60000;
+    static constexpr bool hasSteps = false;
+    static constexpr double compareCost = 3, levelCost = 0.25, lookUpCost = 2, tableCost = 40000 + 1280000 / kVectorBytes;
 
     // Of integers, in double precision; the offset holds the half that rounds, as the result is cut off.
     template <class T>

@@ -121,6 +121,16 @@ Curve<V> randomCurve(Kind kind, Type t, Random& random) {
     return curve;
 }
 
+// Integer curves that leave no sample alone and whose levels may lie far enough apart for no two to share their upper bits.
+Curve<Kvr32s> posterizing(Type t, Random& random) {
+    const Range r = rangeOf(t);
+    const int grey = int(r.most - r.least + 1) / 256;
+    Curve<Kvr32s> curve;
+    for (int64_t level = r.least - random.in(0, 1) * random.in(0, 40); level <= r.most + 60 * grey; level += random.in(14, 60) * grey)
+        curve.levels.push_back(Kvr32s(level)), curve.values.push_back(random.in(int(r.least) - 20, int(r.most) + 20));
+    return curve;
+}
+
 template <class V>
 V sampleAt(Type t, const uint8_t* p) {
     if constexpr (std::is_same_v<V, Kvr32f>) {
@@ -147,8 +157,11 @@ struct Scene {
         : c(c), src(c.pixelBytes() * size.width, size.height, random, false),
           dst(c.pixelBytes() * size.width, size.height, random, false) {
         arrays.reserve(8);
+        [[maybe_unused]] const bool posterize = random.chance(30);
         for (int i = 0; i < c.colours; ++i) {
             curves.push_back(randomCurve<V>(c.kind, c.type, random));
+            if constexpr (std::is_integral_v<V>)
+                if (posterize) curves.back() = posterizing(c.type, random);
             call.nLevels[i] = int(curves[i].levels.size());
             call.values[i] = keep(curves[i].values);
             call.levels[i] = keep(curves[i].levels);
@@ -212,7 +225,7 @@ void expectMapped(const Case& c, unsigned seed, KvriSize size = {}) {
 
 TEST(Lut, MapsAsTheCurvesSay) {
     for (const Case& c : kLuts)
-        for (unsigned seed = 0; seed < 60; ++seed) {
+        for (unsigned seed = 0; seed < 40; ++seed) {
             if (c.type == Type::F32) expectMapped<Kvr32f>(c, seed);
             else expectMapped<Kvr32s>(c, seed);
             if (HasFatalFailure()) FAIL() << c.name << ", seed " << seed;
@@ -223,7 +236,7 @@ TEST(Lut, MapsAsTheCurvesSay) {
 TEST(Lut, TilesEqualTheWhole) {
     for (const Case& c : kLuts) {
         if (c.channels != 1 || c.inPlace || sampleBytes(c.type) != 2) continue;
-        for (unsigned seed = 0; seed < 12; ++seed) {
+        for (unsigned seed = 0; seed < 6; ++seed) {
             Random random(seed);
             auto curve = randomCurve<Kvr32s>(c.kind, c.type, random);
             std::sort(curve.levels.begin(), curve.levels.end());
