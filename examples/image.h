@@ -22,6 +22,8 @@ template <>
 inline constexpr auto kMalloc<Kvr8u, 3> = kvriMalloc_8u_C3;
 template <>
 inline constexpr auto kMalloc<Kvr8u, 4> = kvriMalloc_8u_C4;
+template <>
+inline constexpr auto kMalloc<Kvr32f, 3> = kvriMalloc_32f_C3;
 
 template <class Sample, int channels>
 inline constexpr auto kCopy = nullptr;
@@ -74,6 +76,7 @@ private:
 using Grey = Image<Kvr8u, 1>;
 using Rgb = Image<Kvr8u, 3>;
 using Rgba = Image<Kvr8u, 4>;
+using FloatRgb = Image<Kvr32f, 3>;
 
 // An image as a file holds it.
 using AnyImage = std::variant<Grey, Rgb, Rgba>;

@@ -162,6 +162,12 @@ constexpr Step kSteps[] = {
 
 }  // namespace
 
-std::span<const Step> steps() { return kSteps; }
+std::span<const Step> channelSteps() { return kSteps; }
+
+std::vector<Step> steps() {
+    std::vector<Step> all;
+    for (const auto& group : {channelSteps(), shapeSteps(), pointSteps()}) all.insert(all.end(), group.begin(), group.end());
+    return all;
+}
 
 }  // namespace demo

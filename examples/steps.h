@@ -2,6 +2,7 @@
 #pragma once
 
 #include <span>
+#include <vector>
 
 #include "bench.h"
 #include "image.h"
@@ -15,6 +16,11 @@ struct Step {
     AnyImage (*make)(const Rgb& photo, Bench& bench);
 };
 
-std::span<const Step> steps();
+std::span<const Step> channelSteps();
+std::span<const Step> shapeSteps();
+std::span<const Step> pointSteps();
+
+// All of them, in the order of the contact sheet.
+std::vector<Step> steps();
 
 }  // namespace demo

@@ -92,20 +92,4 @@ inline std::vector<TurnFault> operator+(std::vector<TurnFault> a, const std::vec
 // Around the sides of blocks and tiles.
 inline int randomSide(Random& random) { return random.chance(75) ? random.in(1, 40) : random.in(1, 150); }
 
-// Address space without memory behind it, but for the pages that are touched.
-class Reserved {
-    size_t bytes_;
-
-public:
-    uint8_t* p;
-    explicit Reserved(size_t bytes) : bytes_(bytes) {
-        void* m = mmap(nullptr, bytes, PROT_READ | PROT_WRITE, MAP_PRIVATE | MAP_ANONYMOUS | MAP_NORESERVE, -1, 0);
-        p = m == MAP_FAILED ? nullptr : static_cast<uint8_t*>(m);
-    }
-    Reserved(const Reserved&) = delete;
-    ~Reserved() {
-        if (p) munmap(p, bytes_);
-    }
-};
-
 }  // namespace test

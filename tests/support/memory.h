@@ -131,6 +131,7 @@ struct Reserved {
         void* m = mmap(nullptr, bytes, PROT_READ | PROT_WRITE, MAP_PRIVATE | MAP_ANONYMOUS | MAP_NORESERVE, -1, 0);
         p = m == MAP_FAILED ? nullptr : static_cast<uint8_t*>(m);
     }
+    Reserved(const Reserved&) = delete;
     ~Reserved() {
         if (p) munmap(p, bytes);
     }
