@@ -233,6 +233,17 @@ inline Vec<int32_t, sizeof(V)> towardZero(V v) {
     KVRI_BY_WIDTH(R, cvttps_epi32, raw(v));
 }
 
+// 32f or 32s to 64f: half a vector of them.
+template <class H>
+inline Vec<double, 2 * sizeof(H)> toDoubles(H h) {
+#if defined(__AVX512BW__)  // where the compiler would convert quarters
+    if constexpr (sizeof(H) == 32 && kHolds<H, float>) return (Vec<double, 64>)_mm512_cvtps_pd((__m256)h);
+    else if constexpr (sizeof(H) == 32) return (Vec<double, 64>)_mm512_cvtepi32_pd((__m256i)h);
+    else
+#endif
+    return __builtin_convertvector(h, Vec<double, 2 * sizeof(H)>);
+}
+
 // 64f to 32s by the processor's rounding mode: half a vector of them.
 inline Vec<int32_t, 8> toNearestHalf(Vec<double, 16> v) { return lowerHalf((Vec<int32_t, 16>)_mm_cvtpd_epi32((__m128d)v)); }
 #if defined(__AVX2__)
