@@ -35,6 +35,7 @@ Job prepare(const Case& c, const Geometry& g, int scale) {
     call.step1 = call.step2 = call.dstStep = int(step);
     call.roi = g.size;
     alignas(16) static uint8_t constants[32];
+    for (int i = 0; i < int(sizeof constants); ++i) constants[i] = uint8_t(11 * i);
     fillOperands(c.type, constants, sizeof constants);
     call.value = constants;
     call.scale = scale;

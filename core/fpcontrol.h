@@ -5,20 +5,23 @@
 
 namespace kvri {
 
-// Rounding to nearest, no exceptions, denormal numbers as they are - and then again what the caller had.
+// Rounding to nearest, no exceptions, denormal numbers as they are - and then again what the caller had, flags included.
 class DefaultFloatControl {
     static constexpr unsigned control = 0xFFC0, defaults = 0x1F80;  // the sticky flags below stay
     unsigned before_ = _mm_getcsr();
 
-    bool differs() const { return (before_ & control) != defaults; }
+    static bool isDefault(unsigned csr) { return (csr & control) == defaults; }
 
 public:
+    // Whether the caller has this anyway.
+    static bool isSet() { return isDefault(_mm_getcsr()); }
+
     DefaultFloatControl() {
-        if (differs()) _mm_setcsr((before_ & ~control) | defaults);
+        if (!isDefault(before_)) _mm_setcsr((before_ & ~control) | defaults);
     }
     DefaultFloatControl(const DefaultFloatControl&) = delete;
     ~DefaultFloatControl() {
-        if (differs()) _mm_setcsr(before_);
+        if (_mm_getcsr() != before_) _mm_setcsr(before_);  // costs more than looking
     }
 };
 

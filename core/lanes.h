@@ -86,19 +86,43 @@ inline Vec<int64_t, sizeof(V)> multiplyEven(V a, V b) {
 #if defined(__SSE4_1__)
     KVRI_BY_WIDTH(R, mul_epi32, raw(a), raw(b));
 #else
-    const R correction = (R)(((a >> 31) & b) + ((b >> 31) & a));  // what a negative factor adds when taken as unsigned
-    return (R)((Vec<uint64_t, sizeof(V)>)_mm_mul_epu32((__m128i)a, (__m128i)b) - ((Vec<uint64_t, sizeof(V)>)correction << 32));
+    using U = Vec<uint32_t>;
+    const U correction = (U)((a >> 31) & b) + (U)((b >> 31) & a);  // what a negative factor adds when taken as unsigned
+    return (R)((Vec<uint64_t>)_mm_mul_epu32((__m128i)a, (__m128i)b) - ((Vec<uint64_t>)correction << 32));
 #endif
 }
 
-// min(a, b) of 8u, 16u.
+// min(a, b) and max(a, b) of 8u, 16u, 16s, 32u (min), 32s, 8s (max), 32f, 64f. Of floating point it is b where a NaN is
+// involved, and where both are zeros.
 template <class V>
 inline V smaller(V a, V b) {
     if constexpr (kHolds<V, uint8_t>) { KVRI_BY_WIDTH(V, min_epu8, raw(a), raw(b)); }
+    else if constexpr (kHolds<V, int16_t>) { KVRI_BY_WIDTH(V, min_epi16, raw(a), raw(b)); }
+    else if constexpr (kHolds<V, float>) { KVRI_BY_WIDTH(V, min_ps, raw(a), raw(b)); }
+    else if constexpr (kHolds<V, double>) { KVRI_BY_WIDTH(V, min_pd, raw(a), raw(b)); }
 #if defined(__SSE4_1__)
-    else { KVRI_BY_WIDTH(V, min_epu16, raw(a), raw(b)); }
+    else if constexpr (kHolds<V, uint16_t>) { KVRI_BY_WIDTH(V, min_epu16, raw(a), raw(b)); }
+    else if constexpr (kHolds<V, uint32_t>) { KVRI_BY_WIDTH(V, min_epu32, raw(a), raw(b)); }
+    else { KVRI_BY_WIDTH(V, min_epi32, raw(a), raw(b)); }
 #else
-    else return a - subSat(a, b);
+    else if constexpr (kHolds<V, uint16_t>) return a - subSat(a, b);
+    else return a < b ? a : b;
+#endif
+}
+
+template <class V>
+inline V larger(V a, V b) {
+    if constexpr (kHolds<V, uint8_t>) { KVRI_BY_WIDTH(V, max_epu8, raw(a), raw(b)); }
+    else if constexpr (kHolds<V, int16_t>) { KVRI_BY_WIDTH(V, max_epi16, raw(a), raw(b)); }
+    else if constexpr (kHolds<V, float>) { KVRI_BY_WIDTH(V, max_ps, raw(a), raw(b)); }
+    else if constexpr (kHolds<V, double>) { KVRI_BY_WIDTH(V, max_pd, raw(a), raw(b)); }
+#if defined(__SSE4_1__)
+    else if constexpr (kHolds<V, int8_t>) { KVRI_BY_WIDTH(V, max_epi8, raw(a), raw(b)); }
+    else if constexpr (kHolds<V, uint16_t>) { KVRI_BY_WIDTH(V, max_epu16, raw(a), raw(b)); }
+    else { KVRI_BY_WIDTH(V, max_epi32, raw(a), raw(b)); }
+#else
+    else if constexpr (kHolds<V, uint16_t>) return b + subSat(a, b);
+    else return a > b ? a : b;
 #endif
 }
 
@@ -143,6 +167,45 @@ inline V operator>>(V v, Shift n) {
     else { KVRI_BY_WIDTH(V, srl_epi64, raw(v), n); }
 }
 
+// 32s, shifted by a count of its own for each element; to the right with their sign.
+#if defined(__AVX2__)
+template <class V>
+inline V shiftLeft(V v, V counts) {
+    KVRI_BY_WIDTH(V, sllv_epi32, raw(v), raw(counts));
+}
+
+template <class V>
+inline V shiftRight(V v, V counts) {
+    KVRI_BY_WIDTH(V, srav_epi32, raw(v), raw(counts));
+}
+#else
+namespace detail {
+
+// shifted(count) shifts all elements; each keeps what its own count gave.
+template <class V, class F>
+inline V shiftEach(V counts, F shifted) {
+    V r{};
+    unroll<4>([&](auto element) KVRI_INLINE {
+        constexpr int e = element;
+        const V count = shuffle(counts, constant<V>([](int i) { return i < 4 ? 4 * e + i : 128; }));
+        r |= (V)shifted((__m128i)count) & constant<V>([](int i) { return i / 4 == e ? 255 : 0; });
+    });
+    return r;
+}
+
+}  // namespace detail
+
+template <class V>
+inline V shiftLeft(V v, V counts) {
+    return detail::shiftEach(counts, [&](__m128i n) KVRI_INLINE { return _mm_sll_epi32((__m128i)v, n); });
+}
+
+template <class V>
+inline V shiftRight(V v, V counts) {
+    return detail::shiftEach(counts, [&](__m128i n) KVRI_INLINE { return _mm_sra_epi32((__m128i)v, n); });
+}
+#endif
+
 // Element i of each lane becomes element f(i) of it; f captures nothing.
 template <class V, class F>
 inline V pick(V v, F) {
@@ -177,7 +240,24 @@ inline Wider<V> widenHigh(V v) {
     else return (Wider<V>)zipHigh<size>(v, V{});
 }
 
-// The reverse, with saturation: low halves of the lanes from a, high halves from b. The elements are taken as signed.
+#if defined(__SSE4_1__)
+// The first elements of v, across lanes, as many as a vector R of wider ones holds.
+template <class R, class V>
+inline R extended(V v) {
+    constexpr int from = sizeof(ElementOf<V>), to = sizeof(ElementOf<R>);
+    if constexpr (std::is_signed_v<ElementOf<V>>) {
+        if constexpr (from == 2) { KVRI_BY_WIDTH(R, cvtepi16_epi32, raw(v)); }
+        else if constexpr (to == 2) { KVRI_BY_WIDTH(R, cvtepi8_epi16, raw(v)); }
+        else { KVRI_BY_WIDTH(R, cvtepi8_epi32, raw(v)); }
+    } else {
+        if constexpr (from == 2) { KVRI_BY_WIDTH(R, cvtepu16_epi32, raw(v)); }
+        else if constexpr (to == 2) { KVRI_BY_WIDTH(R, cvtepu8_epi16, raw(v)); }
+        else { KVRI_BY_WIDTH(R, cvtepu8_epi32, raw(v)); }
+    }
+}
+#endif
+
+// The reverse of widenLow and widenHigh, with saturation: low halves of the lanes from a, high halves from b. The elements are taken as signed.
 template <class T, class V>
 inline Vec<T, sizeof(V)> narrow(V a, V b) {
     using R = Vec<T, sizeof(V)>;
@@ -244,6 +324,42 @@ inline Vec<double, 2 * sizeof(H)> toDoubles(H h) {
     return __builtin_convertvector(h, Vec<double, 2 * sizeof(H)>);
 }
 
+// The same to 32u, of numbers that are not negative; what lies above the range becomes its maximum.
+#if defined(__AVX512BW__)
+inline Vec<uint32_t> toNearestUnsigned(Vec<float> v) { return (Vec<uint32_t>)_mm512_cvtps_epu32((__m512)v); }
+inline Vec<uint32_t> towardZeroUnsigned(Vec<float> v) { return (Vec<uint32_t>)_mm512_cvttps_epu32((__m512)v); }
+#else
+// The range's upper half is converted with 2^31 less.
+template <class F>
+inline Vec<uint32_t> upperHalfApart(Vec<float> v, F toSigned) {
+    using U = Vec<uint32_t>;
+    const Vec<float> half = splat<Vec<float>>(0x1p31f);
+    const U upper = (U)(v >= half), above = (U)(v >= splat<Vec<float>>(0x1p32f));
+    return ((U)toSigned(v - (Vec<float>)(upper & (U)half)) ^ (upper & 0x80000000)) | above;
+}
+inline Vec<uint32_t> toNearestUnsigned(Vec<float> v) {
+    return upperHalfApart(v, [](Vec<float> f) { return toNearest(f); });
+}
+inline Vec<uint32_t> towardZeroUnsigned(Vec<float> v) {
+    return upperHalfApart(v, [](Vec<float> f) { return towardZero(f); });
+}
+#endif
+
+// 32s and 32u to 32f by the processor's rounding mode.
+template <class V>
+inline Vec<float, sizeof(V)> toFloats(V v) {
+    using R = Vec<float, sizeof(V)>;
+    if constexpr (kHolds<V, int32_t>) { KVRI_BY_WIDTH(R, cvtepi32_ps, raw(v)); }
+#if defined(__AVX512BW__)
+    else { KVRI_BY_WIDTH(R, cvtepu32_ps, raw(v)); }
+#else
+    else {  // the halves exactly, then their sum
+        using Signed = Vec<int32_t, sizeof(V)>;
+        return toFloats((Signed)(v >> 16)) * 65536 + toFloats((Signed)(v & 0xFFFF));
+    }
+#endif
+}
+
 // 64f to 32s by the processor's rounding mode: half a vector of them.
 inline Vec<int32_t, 8> toNearestHalf(Vec<double, 16> v) { return lowerHalf((Vec<int32_t, 16>)_mm_cvtpd_epi32((__m128d)v)); }
 #if defined(__AVX2__)
@@ -253,32 +369,58 @@ inline Vec<int32_t, 16> toNearestHalf(Vec<double, 32> v) { return (Vec<int32_t, 
 inline Vec<int32_t, 32> toNearestHalf(Vec<double, 64> v) { return (Vec<int32_t, 32>)_mm512_cvtpd_epi32((__m512d)v); }
 #endif
 
+#if defined(__FMA__)
+// a * b + c, rounded once: for results that are proved to be the same without.
+template <class V>
+inline V fusedMultiplyAdd(V a, V b, V c) {
+    KVRI_BY_WIDTH(V, fmadd_ps, raw(a), raw(b), raw(c));
+}
+#endif
+
+// The same toward zero.
+inline Vec<int32_t, 8> towardZeroHalf(Vec<double, 16> v) { return lowerHalf((Vec<int32_t, 16>)_mm_cvttpd_epi32((__m128d)v)); }
+#if defined(__AVX2__)
+inline Vec<int32_t, 16> towardZeroHalf(Vec<double, 32> v) { return (Vec<int32_t, 16>)_mm256_cvttpd_epi32((__m256d)v); }
+#endif
+#if defined(__AVX512BW__)
+inline Vec<int32_t, 32> towardZeroHalf(Vec<double, 64> v) { return (Vec<int32_t, 32>)_mm512_cvttpd_epi32((__m512d)v); }
+#endif
+
 // The number of the range low to high that is nearest to v; a NaN stays one.
 template <class V>
 inline V clamp(V v, V low, V high) {
-    if constexpr (kHolds<V, float>) {
-        const auto least = [](V a, V b) { KVRI_BY_WIDTH(V, min_ps, raw(a), raw(b)); };
-        const auto most = [](V a, V b) { KVRI_BY_WIDTH(V, max_ps, raw(a), raw(b)); };
-        return most(low, least(high, v));
-    } else {
-        const auto least = [](V a, V b) { KVRI_BY_WIDTH(V, min_pd, raw(a), raw(b)); };
-        const auto most = [](V a, V b) { KVRI_BY_WIDTH(V, max_pd, raw(a), raw(b)); };
-        return most(low, least(high, v));
-    }
+    return larger(low, smaller(high, v));
 }
 
-// Whether any element is 0.
+// Of 32f, the smaller one in magnitude, perhaps without its sign.
+template <class V>
+inline V smallerMagnitude(V a, V b) {
+#if defined(__AVX512DQ__)
+    return (V)_mm512_range_ps((__m512)a, (__m512)b, 0b1010);
+#else
+    using I = Vec<int32_t>;
+    const I x = (I)a & 0x7FFFFFFF, y = (I)b & 0x7FFFFFFF;
+    return (V)(x < y ? x : y);
+#endif
+}
+
+// Whether any element of a is equal to that of b.
+template <class V>
+inline bool anyEqual(V a, V b) {
+#if defined(__AVX512BW__)
+    if constexpr (kHolds<V, float>) return _mm512_cmp_ps_mask((__m512)a, (__m512)b, _CMP_EQ_OQ) != 0;
+    else if constexpr (sizeof(ElementOf<V>) == 1) return _mm512_cmpeq_epi8_mask((__m512i)a, (__m512i)b) != 0;
+    else if constexpr (sizeof(ElementOf<V>) == 2) return _mm512_cmpeq_epi16_mask((__m512i)a, (__m512i)b) != 0;
+    else if constexpr (sizeof(ElementOf<V>) == 4) return _mm512_cmpeq_epi32_mask((__m512i)a, (__m512i)b) != 0;
+    else return _mm512_cmpeq_epi64_mask((__m512i)a, (__m512i)b) != 0;
+#else
+    return !allZero((Bytes<>)(a == b));
+#endif
+}
+
 template <class V>
 inline bool anyZero(V v) {
-#if defined(__AVX512BW__)
-    if constexpr (kHolds<V, float>) return _mm512_cmp_ps_mask((__m512)v, _mm512_setzero_ps(), _CMP_EQ_OQ) != 0;
-    else if constexpr (sizeof(ElementOf<V>) == 1) return _mm512_testn_epi8_mask((__m512i)v, (__m512i)v) != 0;
-    else if constexpr (sizeof(ElementOf<V>) == 2) return _mm512_testn_epi16_mask((__m512i)v, (__m512i)v) != 0;
-    else if constexpr (sizeof(ElementOf<V>) == 4) return _mm512_testn_epi32_mask((__m512i)v, (__m512i)v) != 0;
-    else return _mm512_testn_epi64_mask((__m512i)v, (__m512i)v) != 0;
-#else
-    return !allZero((Bytes<>)(v == 0));
-#endif
+    return anyEqual(v, V{});
 }
 
 // Whether any element of a is greater than b's; of 32s.

@@ -26,7 +26,8 @@ public:
         return average(subSat(x, even), half_) >> rest_;
     }
 
-    // n from 2 on: half - 1 is even, and takes the quotient's last bit.
+    // For n from 2 on half - 1 is even, and takes the quotient's last bit. Bits that have been cut off are then told by bit 0
+    // of x just as well.
     V operator()(V x) const { return average(x, ((x >> all_) & 1) | (half_ - 1)) >> rest_; }
 };
 
@@ -61,24 +62,10 @@ public:
         const V even = ~((V)((Vec<uint16_t>)x >> all_) | cut) & 1;
         return (V)((Vec<uint16_t>)average(subSat(x, even), half_) >> rest_) & mask_;
     }
-};
 
-// n up to 15. As unsigned numbers 2^15 higher, whose quotient is 2^(15 - n) higher.
-template <>
-class RoundingShift<int16_t> {
-    using V = Vec<int16_t>;
-    using U = Vec<uint16_t>;
-    Shift all_, rest_;
-    U half_, offset_;
-
-public:
-    explicit RoundingShift(int n)
-        : all_(n), rest_(n - 1), half_(splat<U>(uint16_t((1 << (n - 1)) - 1))), offset_(splat<U>(uint16_t(1 << (15 - n)))) {}
-
-    V operator()(V x, V cut) const {
-        const U even = ~(U)((x >> all_) | cut) & 1;
-        const U raised = (U)x ^ 0x8000;
-        return (V)((average(subSat(raised, even), half_) >> rest_) - offset_);
+    V operator()(V x) const {
+        const V odd = (V)((Vec<uint16_t>)x >> all_) & 1;
+        return (V)((Vec<uint16_t>)average(x, odd | (half_ - 1)) >> rest_) & mask_;
     }
 };
 

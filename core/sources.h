@@ -3,6 +3,8 @@
 // A row is a run of pixels of B bytes, taken in blocks that hold a whole number of pixels and of vectors.
 #pragma once
 
+#include <bit>
+
 #include "core/block.h"
 
 namespace kvri {
@@ -27,7 +29,7 @@ class FromValue {
     Bytes<> pattern_[kPeriod<B>];
 
 public:
-    // The first `size` bytes of a pixel; the rest of its B bytes is never written.
+    // The first `size` bytes of a pixel. A power of two of them is repeated; where it is none, the rest is never written.
     FromValue(const void* value, int size) {
         if constexpr (B > 16) repeat(value, size);
         else repeatLane(value, size);
@@ -45,7 +47,8 @@ private:
         unroll<kPeriod<B>>([&](auto index) KVRI_INLINE {
             constexpr int j = index;
             const auto place = constant<Bytes<>>([](int i) { return (j * kVectorBytes + i) % B; });
-            pattern_[j] = shuffle(broadcastLane<Bytes<>>(lane), place);
+            const uint8_t repeated = std::has_single_bit(unsigned(size)) ? uint8_t(size - 1) : 255;
+            pattern_[j] = shuffle(broadcastLane<Bytes<>>(lane), place & repeated);
         });
     }
 

@@ -2,10 +2,9 @@
 #include "core/check.h"
 #include "core/dispatch.h"
 #include "core/layout.h"
-#include "core/rows.h"
+#include "datamove/copyrow.h"
 #include "datamove/interleave.h"
 #include "datamove/pixelmap.h"
-#include "datamove/write.h"
 #include "kvri/datamove.h"
 
 namespace kvri {
@@ -13,42 +12,17 @@ namespace {
 
 // Same layout, every byte
 
-void copyRow(const uint8_t* src, uint8_t* dst, ptrdiff_t bytes) {
-    constexpr ptrdiff_t worthACall = 32768;
-    if (bytes >= worthACall) std::memcpy(dst, src, size_t(bytes));
-    else writeAll<1>(FromImage<1>{src}, dst, bytes);
-}
-
-void streamRow(const uint8_t* src, uint8_t* dst, ptrdiff_t bytes) {
-    constexpr int vectors = 4, N = vectors * kVectorBytes;
-    const ptrdiff_t head = -reinterpret_cast<intptr_t>(dst) & (kVectorBytes - 1);
-    forEachStreamedBlock<N>(head, bytes, [&](auto block, ptrdiff_t first, ptrdiff_t n) KVRI_INLINE {
-        unroll<vectors>([&](auto j) KVRI_INLINE {
-            const ptrdiff_t at = first + j * kVectorBytes, left = n - j * kVectorBytes;
-            block.store(dst + at, block.template load<Bytes<>>(src + at, left), left);
-        });
-    });
-}
-
-template <int B>
-void copyBytes(const void* pSrc, int srcStep, void* pDst, int dstStep, KvriSize roi, bool streamed) {
-    const auto src = source<B>(pSrc, srcStep);
-    const auto dst = destination<B>(pDst, dstStep);
-    if (streamed) eachRow(roi, [](auto s, auto d, ptrdiff_t pixels) KVRI_INLINE { streamRow(s, d, pixels * B); }, src, dst);
-    else eachRow(roi, [](auto s, auto d, ptrdiff_t pixels) KVRI_INLINE { copyRow(s, d, pixels * B); }, src, dst);
-}
-
 template <class T, class L>
 KvrStatus copy(const T* pSrc, int srcStep, T* pDst, int dstStep, KvriSize roi) {
     if (KvrStatus e = firstError(nonNull(pSrc, pDst), hasPixels(roi))) return e;
     constexpr int B = sizeof(T) * L::channels;
-    copyBytes<B>(pSrc, srcStep, pDst, dstStep, roi, exceedsCache(roi, 2 * B));
+    copyRows<B>(source<B>(pSrc, srcStep), destination<B>(pDst, dstStep), roi, exceedsCache(roi, 2 * B));
     return kvrStatusOk;
 }
 
 KvrStatus copyManaged(const Kvr8u* pSrc, int srcStep, Kvr8u* pDst, int dstStep, KvriSize roi, int flags) {
     if (KvrStatus e = firstError(nonNull(pSrc, pDst), hasPixels(roi))) return e;
-    copyBytes<1>(pSrc, srcStep, pDst, dstStep, roi, flags & kvrCopyNonTemporal);
+    copyRows<1>(source<1>(pSrc, srcStep), destination<1>(pDst, dstStep), roi, flags & kvrCopyNonTemporal);
     return kvrStatusOk;
 }
 

@@ -16,8 +16,9 @@ struct Sum {
     }
 
     template <class V>
-    static V half(V a, V b) {
-        if constexpr (std::is_signed_v<ElementOf<V>>) return (a & b) + ((a ^ b) >> 1);
+    static auto half(V a, V b) {
+        if constexpr (kHolds<V, int16_t>) return ~average((Vec<uint16_t>)a ^ 0x7FFF, (Vec<uint16_t>)b ^ 0x7FFF);
+        else if constexpr (std::is_signed_v<ElementOf<V>>) return (a & b) + ((a ^ b) >> 1);
         else return average(a, b) - (cut(a, b) & 1);
     }
 

@@ -2,7 +2,8 @@
 //
 // A family is a struct: `checks<T>` says which steps it checks and when, and run<T>(task, scaleFactor...) chooses the
 // operation and hands it to the task, which maps it over the images. Operations take the operands in the order of the
-// arguments: op(source 1, source 2), and op(constant, source).
+// arguments: op(source 1, source 2), and op(constant, source). Families of one image and any number of constants map their
+// operations with mapPatterns.
 #pragma once
 
 #include "core/check.h"
@@ -60,11 +61,11 @@ void mapTwo(const Op& op, Operand a, Operand b, Result d, KvriSize roi, int perP
     }, source(a.p, a.step, pixelBytes), source(b.p, b.step, pixelBytes), destination(d.p, d.step, pixelBytes));
 }
 
-template <int B, int Chosen, class Op, class Value>
-void mapWithValue(const Op& op, const Value& value, Operand b, Result d, KvriSize roi, int perPixel) {
+template <int B, int Chosen, class Op, class... Values>
+KVRI_INLINE inline void mapWithValues(const Op& op, Operand b, Result d, KvriSize roi, int perPixel, const Values&... values) {
     const ptrdiff_t pixelBytes = ptrdiff_t(perPixel) * B;
     eachRow(roi, [&](auto pb, auto pd, ptrdiff_t pixels) KVRI_INLINE {
-        mapRow<B, Chosen>(op, pd, pixels * perPixel, value, FromImage<B>{pb});
+        mapRow<B, Chosen>(op, pd, pixels * perPixel, values..., FromImage<B>{pb});
     }, source(b.p, b.step, pixelBytes), destination(d.p, d.step, pixelBytes));
 }
 
@@ -94,48 +95,89 @@ void clear(Result d, KvriSize roi) {
     else fillChosen<B, chosen, B>(zero, d.p, d.step, roi);
 }
 
+template <class L>
+constexpr bool kAlpha = L::channels != L::colours;
+
+// A layout of samples as one of their bytes: for operations that take bits as they are.
+template <class T, class L>
+struct BytesOf {
+    static constexpr int channels = sizeof(T) * L::channels, colours = sizeof(T) * L::colours;
+};
+
+// Values that fit into a vector a whole number of times are a pattern of samples, in which pixels do not matter.
+template <class L>
+constexpr bool kWholePixels = kAlpha<L> || L::channels % 3 == 0;
+
+// Constants as they are.
+template <class T>
+struct ValuePattern {
+    template <int B>
+    struct Of : FromValue<B> {
+        Of(const T* values, int n) : FromValue<B>(values, n * int(sizeof(T))) {}
+    };
+};
+
+// One value per colour as a source of samples of T: Pattern<B> repeats values, one per sample, in pixels of B bytes.
+template <template <int> class Pattern, class T, class L, class Value>
+auto patternOf(const Value* values) {
+    constexpr int S = sizeof(T), B = S * L::channels, lane = std::max(16, B);
+    if constexpr (kWholePixels<L>) return Pattern<B>(values, L::colours);
+    else return Pattern<lane>(values, L::channels);
+}
+template <class L, class T>
+auto pattern(const T* values) {
+    return patternOf<ValuePattern<T>::template Of, T, L>(values);
+}
+
+// op(values..., image) for values that are patterns.
+template <class T, class L, class Op, class... Values>
+void mapPatterns(const Op& op, Operand b, Result d, KvriSize roi, const Values&... values) {
+    constexpr int S = sizeof(T);
+    if constexpr (kAlpha<L> || (kWholePixels<L> && sizeof...(values) > 0))
+        mapWithValues<S * L::channels, S * L::colours>(op, b, d, roi, 1, values...);
+    else
+        mapWithValues<S, S>(op, b, d, roi, L::channels, values...);
+}
+
 // What a family's operation is mapped over.
 template <class T, class L>
 struct TwoImages {
-    static constexpr bool alpha = L::channels != L::colours;
     Operand a, b;
     Result d;
     KvriSize roi;
 
     template <class Op>
     void operator()(const Op& op) const {
-        if constexpr (alpha) mapTwo<sizeof(T) * 4, sizeof(T) * 3>(op, a, b, d, roi, 1);
-        else mapTwo<sizeof(T), sizeof(T)>(op, a, b, d, roi, L::channels);
+        constexpr int S = sizeof(T);
+        if constexpr (kAlpha<L>) mapTwo<S * L::channels, S * L::colours>(op, a, b, d, roi, 1);
+        else mapTwo<S, S>(op, a, b, d, roi, L::channels);
     }
     template <class Op>
     KvrStatus quotients(const Op& op) const {
-        if constexpr (alpha) return mapQuotients<sizeof(T) * 4, sizeof(T) * 3>(op, a, b, d, roi, 1);
-        else return mapQuotients<sizeof(T), sizeof(T)>(op, a, b, d, roi, L::channels);
+        constexpr int S = sizeof(T);
+        if constexpr (kAlpha<L>) return mapQuotients<S * L::channels, S * L::colours>(op, a, b, d, roi, 1);
+        else return mapQuotients<S, S>(op, a, b, d, roi, L::channels);
     }
     void clear() const { kvri::clear<T, L>(d, roi); }
+    auto asBytes() const { return TwoImages<uint8_t, BytesOf<T, L>>{a, b, d, roi}; }
 };
 
-template <class T, class L>
+// Values are samples, or of another type where the family's own patterns are made of them.
+template <class T, class L, class Value = T>
 struct ImageAndValue {
-    static constexpr bool alpha = L::channels != L::colours;
-    const T* value;  // L::colours of them
+    const Value* value;  // L::colours of them
     Operand b;
     Result d;
     KvriSize roi;
 
-    // Values that fit into a vector a whole number of times are a pattern of samples, in which pixels do not matter.
     template <class Op>
     void operator()(const Op& op) const {
-        constexpr int S = sizeof(T), B = S * L::channels, lane = 16;
-        if constexpr (alpha) {
-            mapWithValue<B, S * 3>(op, FromValue<B>(value, S * 3), b, d, roi, 1);
-        } else if constexpr (L::channels == 3) {
-            mapWithValue<B, B>(op, FromValue<B>(value, B), b, d, roi, 1);
-        } else {
-            T pattern[lane / S];
-            for (int i = 0; i < lane / S; ++i) pattern[i] = value[i % L::channels];
-            mapWithValue<S, S>(op, FromValue<lane>(pattern, lane), b, d, roi, L::channels);
-        }
+        mapPatterns<T, L>(op, b, d, roi, pattern<L>(value));
+    }
+    // op(what `Pattern` makes of other values, b).
+    template <template <int> class Pattern, class Op, class Other>
+    void with(const Op& op, const Other* values) const {
+        mapPatterns<T, L>(op, b, d, roi, patternOf<Pattern, T, L>(values));
     }
     // No constant divisor is 0.
     template <class Op>
@@ -144,6 +186,9 @@ struct ImageAndValue {
         return kvrStatusOk;
     }
     void clear() const { kvri::clear<T, L>(d, roi); }
+    auto asBytes() const {
+        return ImageAndValue<uint8_t, BytesOf<T, L>>{reinterpret_cast<const uint8_t*>(value), b, d, roi};
+    }
 };
 
 // Bodies. The scale factor is there for integers only.
@@ -164,28 +209,48 @@ KvrStatus twoImagesInPlace(const T* pSrc, int srcStep, T* pSrcDst, int srcDstSte
     return Family::template run<T>(TwoImages<T, L>{{pSrc, srcStep}, {pSrcDst, srcDstStep}, {pSrcDst, srcDstStep}, roi}, scale...);
 }
 
-template <class Family, class T, class L, class... Scale>
-KvrStatus imageAndValues(const T* pSrc, int srcStep, const T value[L::colours], T* pDst, int dstStep, KvriSize roi,
+template <class Family, class T, class L, class Value, class... Scale>
+KvrStatus imageAndValues(const T* pSrc, int srcStep, const Value value[L::colours], T* pDst, int dstStep, KvriSize roi,
                          Scale... scale) {
     if (KvrStatus e = firstError(nonNull(pSrc, value, pDst), sizeAndSteps<Family::template checks<T>>(roi, srcStep, dstStep)))
         return e;
-    if (KvrStatus e = Family::template checkValues<T>(value, L::colours)) return e;
-    return Family::template run<T>(ImageAndValue<T, L>{value, {pSrc, srcStep}, {pDst, dstStep}, roi}, scale...);
+    if (KvrStatus e = Family::checkValues(value, L::colours)) return e;
+    return Family::template run<T>(ImageAndValue<T, L, Value>{value, {pSrc, srcStep}, {pDst, dstStep}, roi}, scale...);
 }
 
-template <class Family, class T, class... Scale>
-KvrStatus imageAndValue(const T* pSrc, int srcStep, T value, T* pDst, int dstStep, KvriSize roi, Scale... scale) {
+template <class Family, class T, class Value, class... Scale>
+KvrStatus imageAndValue(const T* pSrc, int srcStep, Value value, T* pDst, int dstStep, KvriSize roi, Scale... scale) {
     return imageAndValues<Family, T, C1>(pSrc, srcStep, &value, pDst, dstStep, roi, scale...);
 }
 
-template <class Family, class T, class L, class... Scale>
-KvrStatus valuesInPlace(const T value[L::colours], T* pSrcDst, int srcDstStep, KvriSize roi, Scale... scale) {
+template <class Family, class T, class L, class Value, class... Scale>
+KvrStatus valuesInPlace(const Value value[L::colours], T* pSrcDst, int srcDstStep, KvriSize roi, Scale... scale) {
     return imageAndValues<Family, T, L>(pSrcDst, srcDstStep, value, pSrcDst, srcDstStep, roi, scale...);
 }
 
-template <class Family, class T, class... Scale>
-KvrStatus valueInPlace(T value, T* pSrcDst, int srcDstStep, KvriSize roi, Scale... scale) {
+template <class Family, class T, class Value, class... Scale>
+KvrStatus valueInPlace(Value value, T* pSrcDst, int srcDstStep, KvriSize roi, Scale... scale) {
     return imageAndValues<Family, T, C1>(pSrcDst, srcDstStep, &value, pSrcDst, srcDstStep, roi, scale...);
 }
+
+// Constants as functions take them: for one channel the value itself, else an array.
+template <class T, class L>
+using Constants = std::conditional_t<L::channels == 1, T, const T*>;
+template <class T>
+const T* arrayOf(const T& value) { return &value; }
+template <class T>
+const T* arrayOf(const T* values) { return values; }
+
+// The in-place form of a body of one image.
+template <auto body>
+struct InPlace;
+template <class T, class... Rest, KvrStatus (*body)(const T*, int, T*, int, KvriSize, Rest...)>
+struct InPlace<body> {
+    static KvrStatus call(T* pSrcDst, int srcDstStep, KvriSize roi, Rest... rest) {
+        return body(pSrcDst, srcDstStep, pSrcDst, srcDstStep, roi, rest...);
+    }
+};
+template <auto body>
+constexpr auto inPlace = InPlace<body>::call;
 
 }  // namespace kvri

@@ -1,35 +1,11 @@
 // pointops/div.cpp: Div, DivC and Div_Round.
 #include "core/fpcontrol.h"
+#include "core/roundmode.h"
 #include "kvri/pointops.h"
-#include "pointops/arithmetic.h"
+#include "pointops/reciprocal.h"
 
 namespace kvri {
 namespace {
-
-// 2^-scaleFactor. Beyond the limits no quotient but 0 changes any more: it has saturated, or rounds to 0.
-template <class F>
-F scaleOf(int scaleFactor, int limit) {
-    const int n = std::clamp(scaleFactor, -limit, limit);
-    F scale = 1;
-    for (int i = 0; i < n; ++i) scale /= 2;
-    for (int i = 0; i > n; --i) scale *= 2;
-    return scale;
-}
-
-// How a quotient becomes an integer.
-struct ToNearest {
-    template <class V>
-    auto operator()(V q) const { return toNearest(q); }
-};
-struct TowardZero {
-    template <class V>
-    auto operator()(V q) const { return towardZero(q); }
-};
-// No quotient of 16-bit numbers lies so close below a tie that adding a half would round it up to the next integer.
-struct HalfAway {
-    template <class V>
-    auto operator()(V q) const { return towardZero(q + (V)((Bytes<>)splat<V>(0.5f) | ((Bytes<>)q & (Bytes<>)splat<V>(-0.0f)))); }
-};
 
 // Divisions of integers: quotients(a, b) of 32s, for any b and any a but 0, and the rest follows.
 template <class T, class Quotients>
@@ -86,6 +62,13 @@ public:
         const F limit = splat<F>(0x1p30f);  // beyond any type's
         return Round{}(clamp(q, -limit, limit));
     }
+};
+
+// b / a.
+struct Divided {
+    using Wide = Vec<int32_t>;
+    using F = Vec<float>;
+    Wide operator()(Wide a, Wide b) const { return toNearest(__builtin_convertvector(b, F) / __builtin_convertvector(a, F)); }
 };
 
 // By zero of either sign: infinity with the dividend's sign, or this NaN.
@@ -205,13 +188,49 @@ struct Div {
     static KvrStatus run(const Task& task, int scaleFactor) {
         const DefaultFloatControl control;
         if constexpr (kComplex<T>) return task.quotients(ComplexQuotient<T>(scaleFactor));
+        else if (scaleFactor == 0) return task.quotients(IntegerQuotient<T, Divided>());
         else return task.quotients(IntegerQuotient<T, SinglePrecision<ToNearest>>(scaleFactor));
+    }
+
+    template <class T, class L>
+    static KvrStatus run(const ImageAndValue<T, L>& task, int scaleFactor) {
+        if constexpr (!kComplex<T>) {
+            Reciprocal reciprocals[L::colours];
+            if (reciprocalsOf(task.value, L::colours, scaleFactor, reciprocals)) {
+                task.template with<ReciprocalPattern<T>::template Of>(QuotientByReciprocal<T>{}, reciprocals);
+                return kvrStatusOk;
+            }
+        }
+        return run<T, ImageAndValue<T, L>>(task, scaleFactor);
     }
 
     template <class T, class Task>
     static KvrStatus run(const Task& task) {
         return task.quotients(std::conditional_t<kComplex<T>, FloatComplexQuotient, FloatQuotient>{});
     }
+
+#if defined(__FMA__)
+    template <class L>
+    static bool divide(const ImageAndValue<Kvr32f, L>& task) {
+        if (!DefaultFloatControl::isSet()) return false;
+        FloatReciprocal reciprocals[L::colours];
+        for (int i = 0; i < L::colours; ++i) {
+            const float c = task.value[i];
+            if (!(std::abs(c) >= 0x1p-30f && std::abs(c) <= 0x1p30f)) return false;
+            reciprocals[i] = FloatReciprocal(c);
+            if (!reciprocals[i].exact()) return false;
+        }
+        task.template with<FloatReciprocalPattern::Of>(FloatQuotientByReciprocal{}, reciprocals);
+        return true;
+    }
+
+    template <class T, class L>
+    static KvrStatus run(const ImageAndValue<T, L>& task) {
+        if constexpr (!kComplex<T>)
+            if (divide(task)) return kvrStatusOk;
+        return run<T, ImageAndValue<T, L>>(task);
+    }
+#endif
 };
 
 struct DivRound {

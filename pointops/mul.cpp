@@ -5,9 +5,57 @@
 namespace kvri {
 namespace {
 
+// A factor of bytes, and the byte from which on its products saturate: a larger one gives nothing else.
+struct ByteFactor {
+    uint8_t value, enough;
+    explicit ByteFactor(uint8_t v) : value(v), enough(uint8_t(v == 0 ? 255 : std::min(255 / v + 1, 255))) {}
+    ByteFactor() = default;
+
+    struct Lanes {
+        Vec<uint8_t> value, enough;
+    };
+    template <int B>
+    class Pattern {
+        FromValue<B> value_, enough_;
+        static FromValue<B> pattern(const ByteFactor* f, int n, uint8_t ByteFactor::*member) {
+            uint8_t bytes[4];
+            for (int i = 0; i < n; ++i) bytes[i] = f[i].*member;
+            return FromValue<B>(bytes, n);
+        }
+
+    public:
+        Pattern(const ByteFactor* f, int n) : value_(pattern(f, n, &ByteFactor::value)), enough_(pattern(f, n, &ByteFactor::enough)) {}
+        template <int j>
+        KVRI_INLINE Lanes vector(auto block, ptrdiff_t first, ptrdiff_t bytes) const {
+            return {value_.template vector<j>(block, first, bytes), enough_.template vector<j>(block, first, bytes)};
+        }
+    };
+};
+
+// Products of limited bytes fit into signed words, which are packed with saturation.
+struct SaturatedByFactor {
+    using Sample = uint8_t;
+    static constexpr int unrolled = 2;
+    using V = Vec<uint8_t>;
+    V operator()(const ByteFactor::Lanes& factor, V b) const {
+        const V limited = smaller(b, factor.enough);
+        return narrow<uint8_t>(widenLow(factor.value) * widenLow(limited), widenHigh(factor.value) * widenHigh(limited));
+    }
+};
+
 struct Mul : AnyValues {
     template <class T>
     static constexpr Checks checks = kComplex<T> ? Checks::SizeThenSteps : Checks::NoSteps;
+
+    template <class T, class L>
+        requires std::is_same_v<T, Kvr8u>
+    static KvrStatus run(const ImageAndValue<T, L>& task, int scaleFactor) {
+        if (scaleFactor != 0) return run<T, ImageAndValue<T, L>>(task, scaleFactor);
+        ByteFactor factors[L::colours];
+        for (int i = 0; i < L::colours; ++i) factors[i] = ByteFactor(task.value[i]);
+        task.template with<ByteFactor::Pattern>(SaturatedByFactor{}, factors);
+        return kvrStatusOk;
+    }
 
     template <class T, class Task>
     static KvrStatus run(const Task& task, int scaleFactor) {

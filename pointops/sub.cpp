@@ -17,8 +17,9 @@ struct Difference {
 
     // Unsigned results below 0 are 0.
     template <class V>
-    static V half(V a, V b) {
-        if constexpr (std::is_signed_v<ElementOf<V>>) return (b | ~a) - ((b ^ ~a) >> 1);
+    static auto half(V a, V b) {
+        if constexpr (kHolds<V, int16_t>) return average((Vec<uint16_t>)b ^ 0x8000, (Vec<uint16_t>)a ^ 0x7FFF);
+        else if constexpr (std::is_signed_v<ElementOf<V>>) return (b | ~a) - ((b ^ ~a) >> 1);
         else return subSat(b, a) >> 1;
     }
 

@@ -294,6 +294,347 @@ KvrStatus kvriSwapChannels_32f_AC4R(const Kvr32f* pSrc, int srcStep, Kvr32f* pDs
 KvrStatus kvriSwapChannels_8u_C3IR(Kvr8u* pSrcDst, int srcDstStep, KvriSize roiSize, const int order[3]);
 KvrStatus kvriSwapChannels_8u_C4IR(Kvr8u* pSrcDst, int srcDstStep, KvriSize roiSize, const int order[4]);
 
+/* CopyConstBorder, CopyReplicateBorder, CopyWrapBorder - the source inside a larger destination, with a margin around it.
+ * Source pixel (0, 0) becomes destination pixel (leftBorderWidth, topBorderHeight); margins on the right and below take what
+ * remains of dstRoiSize, which may be nothing. All lengths in pixels. AC4 leaves the destination's fourth channel as it is,
+ * in the margin and in the middle.
+ * Errors, in this order: null pointer -8 (value counts where it is one), step below 1 -14, -6: a width or height below 1, a
+ * negative border, leftBorderWidth + source width above the destination's width, and the same for heights. */
+
+/* CopyConstBorder - every margin pixel is value: a sample, or 3 (C3, AC4) or 4 (C4) of them.
+ * Source and destination may not overlap. */
+KvrStatus kvriCopyConstBorder_8u_C1R(const Kvr8u* pSrc, int srcStep, KvriSize srcRoiSize, Kvr8u* pDst, int dstStep, KvriSize dstRoiSize, int topBorderHeight, int leftBorderWidth, Kvr8u value);
+KvrStatus kvriCopyConstBorder_8u_C3R(const Kvr8u* pSrc, int srcStep, KvriSize srcRoiSize, Kvr8u* pDst, int dstStep, KvriSize dstRoiSize, int topBorderHeight, int leftBorderWidth, const Kvr8u value[3]);
+KvrStatus kvriCopyConstBorder_8u_C4R(const Kvr8u* pSrc, int srcStep, KvriSize srcRoiSize, Kvr8u* pDst, int dstStep, KvriSize dstRoiSize, int topBorderHeight, int leftBorderWidth, const Kvr8u value[4]);
+KvrStatus kvriCopyConstBorder_8u_AC4R(const Kvr8u* pSrc, int srcStep, KvriSize srcRoiSize, Kvr8u* pDst, int dstStep, KvriSize dstRoiSize, int topBorderHeight, int leftBorderWidth, const Kvr8u value[3]);
+KvrStatus kvriCopyConstBorder_16u_C1R(const Kvr16u* pSrc, int srcStep, KvriSize srcRoiSize, Kvr16u* pDst, int dstStep, KvriSize dstRoiSize, int topBorderHeight, int leftBorderWidth, Kvr16u value);
+KvrStatus kvriCopyConstBorder_16u_C3R(const Kvr16u* pSrc, int srcStep, KvriSize srcRoiSize, Kvr16u* pDst, int dstStep, KvriSize dstRoiSize, int topBorderHeight, int leftBorderWidth, const Kvr16u value[3]);
+KvrStatus kvriCopyConstBorder_16u_C4R(const Kvr16u* pSrc, int srcStep, KvriSize srcRoiSize, Kvr16u* pDst, int dstStep, KvriSize dstRoiSize, int topBorderHeight, int leftBorderWidth, const Kvr16u value[4]);
+KvrStatus kvriCopyConstBorder_16u_AC4R(const Kvr16u* pSrc, int srcStep, KvriSize srcRoiSize, Kvr16u* pDst, int dstStep, KvriSize dstRoiSize, int topBorderHeight, int leftBorderWidth, const Kvr16u value[3]);
+KvrStatus kvriCopyConstBorder_16s_C1R(const Kvr16s* pSrc, int srcStep, KvriSize srcRoiSize, Kvr16s* pDst, int dstStep, KvriSize dstRoiSize, int topBorderHeight, int leftBorderWidth, Kvr16s value);
+KvrStatus kvriCopyConstBorder_16s_C3R(const Kvr16s* pSrc, int srcStep, KvriSize srcRoiSize, Kvr16s* pDst, int dstStep, KvriSize dstRoiSize, int topBorderHeight, int leftBorderWidth, const Kvr16s value[3]);
+KvrStatus kvriCopyConstBorder_16s_C4R(const Kvr16s* pSrc, int srcStep, KvriSize srcRoiSize, Kvr16s* pDst, int dstStep, KvriSize dstRoiSize, int topBorderHeight, int leftBorderWidth, const Kvr16s value[4]);
+KvrStatus kvriCopyConstBorder_16s_AC4R(const Kvr16s* pSrc, int srcStep, KvriSize srcRoiSize, Kvr16s* pDst, int dstStep, KvriSize dstRoiSize, int topBorderHeight, int leftBorderWidth, const Kvr16s value[3]);
+KvrStatus kvriCopyConstBorder_32s_C1R(const Kvr32s* pSrc, int srcStep, KvriSize srcRoiSize, Kvr32s* pDst, int dstStep, KvriSize dstRoiSize, int topBorderHeight, int leftBorderWidth, Kvr32s value);
+KvrStatus kvriCopyConstBorder_32s_C3R(const Kvr32s* pSrc, int srcStep, KvriSize srcRoiSize, Kvr32s* pDst, int dstStep, KvriSize dstRoiSize, int topBorderHeight, int leftBorderWidth, const Kvr32s value[3]);
+KvrStatus kvriCopyConstBorder_32s_C4R(const Kvr32s* pSrc, int srcStep, KvriSize srcRoiSize, Kvr32s* pDst, int dstStep, KvriSize dstRoiSize, int topBorderHeight, int leftBorderWidth, const Kvr32s value[4]);
+KvrStatus kvriCopyConstBorder_32s_AC4R(const Kvr32s* pSrc, int srcStep, KvriSize srcRoiSize, Kvr32s* pDst, int dstStep, KvriSize dstRoiSize, int topBorderHeight, int leftBorderWidth, const Kvr32s value[3]);
+KvrStatus kvriCopyConstBorder_32f_C1R(const Kvr32f* pSrc, int srcStep, KvriSize srcRoiSize, Kvr32f* pDst, int dstStep, KvriSize dstRoiSize, int topBorderHeight, int leftBorderWidth, Kvr32f value);
+KvrStatus kvriCopyConstBorder_32f_C3R(const Kvr32f* pSrc, int srcStep, KvriSize srcRoiSize, Kvr32f* pDst, int dstStep, KvriSize dstRoiSize, int topBorderHeight, int leftBorderWidth, const Kvr32f value[3]);
+KvrStatus kvriCopyConstBorder_32f_C4R(const Kvr32f* pSrc, int srcStep, KvriSize srcRoiSize, Kvr32f* pDst, int dstStep, KvriSize dstRoiSize, int topBorderHeight, int leftBorderWidth, const Kvr32f value[4]);
+KvrStatus kvriCopyConstBorder_32f_AC4R(const Kvr32f* pSrc, int srcStep, KvriSize srcRoiSize, Kvr32f* pDst, int dstStep, KvriSize dstRoiSize, int topBorderHeight, int leftBorderWidth, const Kvr32f value[3]);
+
+/* CopyReplicateBorder - a margin pixel is the source pixel nearest to it.
+ * Source and destination may not overlap. */
+KvrStatus kvriCopyReplicateBorder_8u_C1R(const Kvr8u* pSrc, int srcStep, KvriSize srcRoiSize, Kvr8u* pDst, int dstStep, KvriSize dstRoiSize, int topBorderHeight, int leftBorderWidth);
+KvrStatus kvriCopyReplicateBorder_8u_C3R(const Kvr8u* pSrc, int srcStep, KvriSize srcRoiSize, Kvr8u* pDst, int dstStep, KvriSize dstRoiSize, int topBorderHeight, int leftBorderWidth);
+KvrStatus kvriCopyReplicateBorder_8u_C4R(const Kvr8u* pSrc, int srcStep, KvriSize srcRoiSize, Kvr8u* pDst, int dstStep, KvriSize dstRoiSize, int topBorderHeight, int leftBorderWidth);
+KvrStatus kvriCopyReplicateBorder_8u_AC4R(const Kvr8u* pSrc, int srcStep, KvriSize srcRoiSize, Kvr8u* pDst, int dstStep, KvriSize dstRoiSize, int topBorderHeight, int leftBorderWidth);
+KvrStatus kvriCopyReplicateBorder_16u_C1R(const Kvr16u* pSrc, int srcStep, KvriSize srcRoiSize, Kvr16u* pDst, int dstStep, KvriSize dstRoiSize, int topBorderHeight, int leftBorderWidth);
+KvrStatus kvriCopyReplicateBorder_16u_C3R(const Kvr16u* pSrc, int srcStep, KvriSize srcRoiSize, Kvr16u* pDst, int dstStep, KvriSize dstRoiSize, int topBorderHeight, int leftBorderWidth);
+KvrStatus kvriCopyReplicateBorder_16u_C4R(const Kvr16u* pSrc, int srcStep, KvriSize srcRoiSize, Kvr16u* pDst, int dstStep, KvriSize dstRoiSize, int topBorderHeight, int leftBorderWidth);
+KvrStatus kvriCopyReplicateBorder_16u_AC4R(const Kvr16u* pSrc, int srcStep, KvriSize srcRoiSize, Kvr16u* pDst, int dstStep, KvriSize dstRoiSize, int topBorderHeight, int leftBorderWidth);
+KvrStatus kvriCopyReplicateBorder_16s_C1R(const Kvr16s* pSrc, int srcStep, KvriSize srcRoiSize, Kvr16s* pDst, int dstStep, KvriSize dstRoiSize, int topBorderHeight, int leftBorderWidth);
+KvrStatus kvriCopyReplicateBorder_16s_C3R(const Kvr16s* pSrc, int srcStep, KvriSize srcRoiSize, Kvr16s* pDst, int dstStep, KvriSize dstRoiSize, int topBorderHeight, int leftBorderWidth);
+KvrStatus kvriCopyReplicateBorder_16s_C4R(const Kvr16s* pSrc, int srcStep, KvriSize srcRoiSize, Kvr16s* pDst, int dstStep, KvriSize dstRoiSize, int topBorderHeight, int leftBorderWidth);
+KvrStatus kvriCopyReplicateBorder_16s_AC4R(const Kvr16s* pSrc, int srcStep, KvriSize srcRoiSize, Kvr16s* pDst, int dstStep, KvriSize dstRoiSize, int topBorderHeight, int leftBorderWidth);
+KvrStatus kvriCopyReplicateBorder_32s_C1R(const Kvr32s* pSrc, int srcStep, KvriSize srcRoiSize, Kvr32s* pDst, int dstStep, KvriSize dstRoiSize, int topBorderHeight, int leftBorderWidth);
+KvrStatus kvriCopyReplicateBorder_32s_C3R(const Kvr32s* pSrc, int srcStep, KvriSize srcRoiSize, Kvr32s* pDst, int dstStep, KvriSize dstRoiSize, int topBorderHeight, int leftBorderWidth);
+KvrStatus kvriCopyReplicateBorder_32s_C4R(const Kvr32s* pSrc, int srcStep, KvriSize srcRoiSize, Kvr32s* pDst, int dstStep, KvriSize dstRoiSize, int topBorderHeight, int leftBorderWidth);
+KvrStatus kvriCopyReplicateBorder_32s_AC4R(const Kvr32s* pSrc, int srcStep, KvriSize srcRoiSize, Kvr32s* pDst, int dstStep, KvriSize dstRoiSize, int topBorderHeight, int leftBorderWidth);
+KvrStatus kvriCopyReplicateBorder_32f_C1R(const Kvr32f* pSrc, int srcStep, KvriSize srcRoiSize, Kvr32f* pDst, int dstStep, KvriSize dstRoiSize, int topBorderHeight, int leftBorderWidth);
+KvrStatus kvriCopyReplicateBorder_32f_C3R(const Kvr32f* pSrc, int srcStep, KvriSize srcRoiSize, Kvr32f* pDst, int dstStep, KvriSize dstRoiSize, int topBorderHeight, int leftBorderWidth);
+KvrStatus kvriCopyReplicateBorder_32f_C4R(const Kvr32f* pSrc, int srcStep, KvriSize srcRoiSize, Kvr32f* pDst, int dstStep, KvriSize dstRoiSize, int topBorderHeight, int leftBorderWidth);
+KvrStatus kvriCopyReplicateBorder_32f_AC4R(const Kvr32f* pSrc, int srcStep, KvriSize srcRoiSize, Kvr32f* pDst, int dstStep, KvriSize dstRoiSize, int topBorderHeight, int leftBorderWidth);
+
+/* CopyReplicateBorder in place - pSrcDst is the source's first pixel inside a larger image: the margins are written into the
+ * memory around it, which begins topBorderHeight rows above and leftBorderWidth pixels to the left. The source pixels are
+ * not written. */
+KvrStatus kvriCopyReplicateBorder_8u_C1IR(Kvr8u* pSrcDst, int srcDstStep, KvriSize srcRoiSize, KvriSize dstRoiSize, int topBorderHeight, int leftBorderWidth);
+KvrStatus kvriCopyReplicateBorder_8u_C3IR(Kvr8u* pSrcDst, int srcDstStep, KvriSize srcRoiSize, KvriSize dstRoiSize, int topBorderHeight, int leftBorderWidth);
+KvrStatus kvriCopyReplicateBorder_8u_C4IR(Kvr8u* pSrcDst, int srcDstStep, KvriSize srcRoiSize, KvriSize dstRoiSize, int topBorderHeight, int leftBorderWidth);
+KvrStatus kvriCopyReplicateBorder_8u_AC4IR(Kvr8u* pSrcDst, int srcDstStep, KvriSize srcRoiSize, KvriSize dstRoiSize, int topBorderHeight, int leftBorderWidth);
+KvrStatus kvriCopyReplicateBorder_16u_C1IR(Kvr16u* pSrcDst, int srcDstStep, KvriSize srcRoiSize, KvriSize dstRoiSize, int topBorderHeight, int leftBorderWidth);
+KvrStatus kvriCopyReplicateBorder_16u_C3IR(Kvr16u* pSrcDst, int srcDstStep, KvriSize srcRoiSize, KvriSize dstRoiSize, int topBorderHeight, int leftBorderWidth);
+KvrStatus kvriCopyReplicateBorder_16u_C4IR(Kvr16u* pSrcDst, int srcDstStep, KvriSize srcRoiSize, KvriSize dstRoiSize, int topBorderHeight, int leftBorderWidth);
+KvrStatus kvriCopyReplicateBorder_16u_AC4IR(Kvr16u* pSrcDst, int srcDstStep, KvriSize srcRoiSize, KvriSize dstRoiSize, int topBorderHeight, int leftBorderWidth);
+KvrStatus kvriCopyReplicateBorder_16s_C1IR(Kvr16s* pSrcDst, int srcDstStep, KvriSize srcRoiSize, KvriSize dstRoiSize, int topBorderHeight, int leftBorderWidth);
+KvrStatus kvriCopyReplicateBorder_16s_C3IR(Kvr16s* pSrcDst, int srcDstStep, KvriSize srcRoiSize, KvriSize dstRoiSize, int topBorderHeight, int leftBorderWidth);
+KvrStatus kvriCopyReplicateBorder_16s_C4IR(Kvr16s* pSrcDst, int srcDstStep, KvriSize srcRoiSize, KvriSize dstRoiSize, int topBorderHeight, int leftBorderWidth);
+KvrStatus kvriCopyReplicateBorder_16s_AC4IR(Kvr16s* pSrcDst, int srcDstStep, KvriSize srcRoiSize, KvriSize dstRoiSize, int topBorderHeight, int leftBorderWidth);
+KvrStatus kvriCopyReplicateBorder_32s_C1IR(Kvr32s* pSrcDst, int srcDstStep, KvriSize srcRoiSize, KvriSize dstRoiSize, int topBorderHeight, int leftBorderWidth);
+KvrStatus kvriCopyReplicateBorder_32s_C3IR(Kvr32s* pSrcDst, int srcDstStep, KvriSize srcRoiSize, KvriSize dstRoiSize, int topBorderHeight, int leftBorderWidth);
+KvrStatus kvriCopyReplicateBorder_32s_C4IR(Kvr32s* pSrcDst, int srcDstStep, KvriSize srcRoiSize, KvriSize dstRoiSize, int topBorderHeight, int leftBorderWidth);
+KvrStatus kvriCopyReplicateBorder_32s_AC4IR(Kvr32s* pSrcDst, int srcDstStep, KvriSize srcRoiSize, KvriSize dstRoiSize, int topBorderHeight, int leftBorderWidth);
+KvrStatus kvriCopyReplicateBorder_32f_C1IR(Kvr32f* pSrcDst, int srcDstStep, KvriSize srcRoiSize, KvriSize dstRoiSize, int topBorderHeight, int leftBorderWidth);
+KvrStatus kvriCopyReplicateBorder_32f_C3IR(Kvr32f* pSrcDst, int srcDstStep, KvriSize srcRoiSize, KvriSize dstRoiSize, int topBorderHeight, int leftBorderWidth);
+KvrStatus kvriCopyReplicateBorder_32f_C4IR(Kvr32f* pSrcDst, int srcDstStep, KvriSize srcRoiSize, KvriSize dstRoiSize, int topBorderHeight, int leftBorderWidth);
+KvrStatus kvriCopyReplicateBorder_32f_AC4IR(Kvr32f* pSrcDst, int srcDstStep, KvriSize srcRoiSize, KvriSize dstRoiSize, int topBorderHeight, int leftBorderWidth);
+
+/* CopyWrapBorder - the source is one period of a periodic image: the margin on one side shows the opposite side, and
+ * starts over where it is wider than the source.
+ * C1IR works in place, as above; so does C1R where pSrc = pDst, with srcStep as the step. Other overlaps are not allowed. */
+KvrStatus kvriCopyWrapBorder_32s_C1R(const Kvr32s* pSrc, int srcStep, KvriSize srcRoiSize, Kvr32s* pDst, int dstStep, KvriSize dstRoiSize, int topBorderHeight, int leftBorderWidth);
+KvrStatus kvriCopyWrapBorder_32s_C1IR(Kvr32s* pSrcDst, int srcDstStep, KvriSize srcRoiSize, KvriSize dstRoiSize, int topBorderHeight, int leftBorderWidth);
+KvrStatus kvriCopyWrapBorder_32f_C1R(const Kvr32f* pSrc, int srcStep, KvriSize srcRoiSize, Kvr32f* pDst, int dstStep, KvriSize dstRoiSize, int topBorderHeight, int leftBorderWidth);
+KvrStatus kvriCopyWrapBorder_32f_C1IR(Kvr32f* pSrcDst, int srcDstStep, KvriSize srcRoiSize, KvriSize dstRoiSize, int topBorderHeight, int leftBorderWidth);
+/* Convert - every sample as the nearest value of another type: exactly where the type is wider, else saturated (-5 is 0 and
+ * 300 is 255 as 8u). AC4 leaves the destination's fourth channel as it is. Pixel by pixel; the images may not overlap.
+ * Errors, in this order: null pointer -8, width or height below 1 -6, step below 1 -14. */
+KvrStatus kvriConvert_8u16u_C1R(const Kvr8u* pSrc, int srcStep, Kvr16u* pDst, int dstStep, KvriSize roiSize);
+KvrStatus kvriConvert_8u16u_C3R(const Kvr8u* pSrc, int srcStep, Kvr16u* pDst, int dstStep, KvriSize roiSize);
+KvrStatus kvriConvert_8u16u_C4R(const Kvr8u* pSrc, int srcStep, Kvr16u* pDst, int dstStep, KvriSize roiSize);
+KvrStatus kvriConvert_8u16u_AC4R(const Kvr8u* pSrc, int srcStep, Kvr16u* pDst, int dstStep, KvriSize roiSize);
+KvrStatus kvriConvert_8u16s_C1R(const Kvr8u* pSrc, int srcStep, Kvr16s* pDst, int dstStep, KvriSize roiSize);
+KvrStatus kvriConvert_8u16s_C3R(const Kvr8u* pSrc, int srcStep, Kvr16s* pDst, int dstStep, KvriSize roiSize);
+KvrStatus kvriConvert_8u16s_C4R(const Kvr8u* pSrc, int srcStep, Kvr16s* pDst, int dstStep, KvriSize roiSize);
+KvrStatus kvriConvert_8u16s_AC4R(const Kvr8u* pSrc, int srcStep, Kvr16s* pDst, int dstStep, KvriSize roiSize);
+KvrStatus kvriConvert_8u32s_C1R(const Kvr8u* pSrc, int srcStep, Kvr32s* pDst, int dstStep, KvriSize roiSize);
+KvrStatus kvriConvert_8u32s_C3R(const Kvr8u* pSrc, int srcStep, Kvr32s* pDst, int dstStep, KvriSize roiSize);
+KvrStatus kvriConvert_8u32s_C4R(const Kvr8u* pSrc, int srcStep, Kvr32s* pDst, int dstStep, KvriSize roiSize);
+KvrStatus kvriConvert_8u32s_AC4R(const Kvr8u* pSrc, int srcStep, Kvr32s* pDst, int dstStep, KvriSize roiSize);
+KvrStatus kvriConvert_8u32f_C1R(const Kvr8u* pSrc, int srcStep, Kvr32f* pDst, int dstStep, KvriSize roiSize);
+KvrStatus kvriConvert_8u32f_C3R(const Kvr8u* pSrc, int srcStep, Kvr32f* pDst, int dstStep, KvriSize roiSize);
+KvrStatus kvriConvert_8u32f_C4R(const Kvr8u* pSrc, int srcStep, Kvr32f* pDst, int dstStep, KvriSize roiSize);
+KvrStatus kvriConvert_8u32f_AC4R(const Kvr8u* pSrc, int srcStep, Kvr32f* pDst, int dstStep, KvriSize roiSize);
+KvrStatus kvriConvert_8s32s_C1R(const Kvr8s* pSrc, int srcStep, Kvr32s* pDst, int dstStep, KvriSize roiSize);
+KvrStatus kvriConvert_8s32s_C3R(const Kvr8s* pSrc, int srcStep, Kvr32s* pDst, int dstStep, KvriSize roiSize);
+KvrStatus kvriConvert_8s32s_C4R(const Kvr8s* pSrc, int srcStep, Kvr32s* pDst, int dstStep, KvriSize roiSize);
+KvrStatus kvriConvert_8s32s_AC4R(const Kvr8s* pSrc, int srcStep, Kvr32s* pDst, int dstStep, KvriSize roiSize);
+KvrStatus kvriConvert_8s32f_C1R(const Kvr8s* pSrc, int srcStep, Kvr32f* pDst, int dstStep, KvriSize roiSize);
+KvrStatus kvriConvert_8s32f_C3R(const Kvr8s* pSrc, int srcStep, Kvr32f* pDst, int dstStep, KvriSize roiSize);
+KvrStatus kvriConvert_8s32f_C4R(const Kvr8s* pSrc, int srcStep, Kvr32f* pDst, int dstStep, KvriSize roiSize);
+KvrStatus kvriConvert_8s32f_AC4R(const Kvr8s* pSrc, int srcStep, Kvr32f* pDst, int dstStep, KvriSize roiSize);
+KvrStatus kvriConvert_16u8u_C1R(const Kvr16u* pSrc, int srcStep, Kvr8u* pDst, int dstStep, KvriSize roiSize);
+KvrStatus kvriConvert_16u8u_C3R(const Kvr16u* pSrc, int srcStep, Kvr8u* pDst, int dstStep, KvriSize roiSize);
+KvrStatus kvriConvert_16u8u_C4R(const Kvr16u* pSrc, int srcStep, Kvr8u* pDst, int dstStep, KvriSize roiSize);
+KvrStatus kvriConvert_16u8u_AC4R(const Kvr16u* pSrc, int srcStep, Kvr8u* pDst, int dstStep, KvriSize roiSize);
+KvrStatus kvriConvert_16s8u_C1R(const Kvr16s* pSrc, int srcStep, Kvr8u* pDst, int dstStep, KvriSize roiSize);
+KvrStatus kvriConvert_16s8u_C3R(const Kvr16s* pSrc, int srcStep, Kvr8u* pDst, int dstStep, KvriSize roiSize);
+KvrStatus kvriConvert_16s8u_C4R(const Kvr16s* pSrc, int srcStep, Kvr8u* pDst, int dstStep, KvriSize roiSize);
+KvrStatus kvriConvert_16s8u_AC4R(const Kvr16s* pSrc, int srcStep, Kvr8u* pDst, int dstStep, KvriSize roiSize);
+KvrStatus kvriConvert_16u32f_C1R(const Kvr16u* pSrc, int srcStep, Kvr32f* pDst, int dstStep, KvriSize roiSize);
+KvrStatus kvriConvert_16u32f_C3R(const Kvr16u* pSrc, int srcStep, Kvr32f* pDst, int dstStep, KvriSize roiSize);
+KvrStatus kvriConvert_16u32f_C4R(const Kvr16u* pSrc, int srcStep, Kvr32f* pDst, int dstStep, KvriSize roiSize);
+KvrStatus kvriConvert_16u32f_AC4R(const Kvr16u* pSrc, int srcStep, Kvr32f* pDst, int dstStep, KvriSize roiSize);
+KvrStatus kvriConvert_16s32f_C1R(const Kvr16s* pSrc, int srcStep, Kvr32f* pDst, int dstStep, KvriSize roiSize);
+KvrStatus kvriConvert_16s32f_C3R(const Kvr16s* pSrc, int srcStep, Kvr32f* pDst, int dstStep, KvriSize roiSize);
+KvrStatus kvriConvert_16s32f_C4R(const Kvr16s* pSrc, int srcStep, Kvr32f* pDst, int dstStep, KvriSize roiSize);
+KvrStatus kvriConvert_16s32f_AC4R(const Kvr16s* pSrc, int srcStep, Kvr32f* pDst, int dstStep, KvriSize roiSize);
+KvrStatus kvriConvert_32s8u_C1R(const Kvr32s* pSrc, int srcStep, Kvr8u* pDst, int dstStep, KvriSize roiSize);
+KvrStatus kvriConvert_32s8u_C3R(const Kvr32s* pSrc, int srcStep, Kvr8u* pDst, int dstStep, KvriSize roiSize);
+KvrStatus kvriConvert_32s8u_C4R(const Kvr32s* pSrc, int srcStep, Kvr8u* pDst, int dstStep, KvriSize roiSize);
+KvrStatus kvriConvert_32s8u_AC4R(const Kvr32s* pSrc, int srcStep, Kvr8u* pDst, int dstStep, KvriSize roiSize);
+KvrStatus kvriConvert_32s8s_C1R(const Kvr32s* pSrc, int srcStep, Kvr8s* pDst, int dstStep, KvriSize roiSize);
+KvrStatus kvriConvert_32s8s_C3R(const Kvr32s* pSrc, int srcStep, Kvr8s* pDst, int dstStep, KvriSize roiSize);
+KvrStatus kvriConvert_32s8s_C4R(const Kvr32s* pSrc, int srcStep, Kvr8s* pDst, int dstStep, KvriSize roiSize);
+KvrStatus kvriConvert_32s8s_AC4R(const Kvr32s* pSrc, int srcStep, Kvr8s* pDst, int dstStep, KvriSize roiSize);
+
+/* Convert, any step - errors, in this order: null pointer -8, width or height below 1 -6. Integers that 32f cannot represent
+ * are rounded by the processor's rounding mode as the caller has set it. */
+KvrStatus kvriConvert_16u32s_C1R(const Kvr16u* pSrc, int srcStep, Kvr32s* pDst, int dstStep, KvriSize roiSize);
+KvrStatus kvriConvert_16u32s_C3R(const Kvr16u* pSrc, int srcStep, Kvr32s* pDst, int dstStep, KvriSize roiSize);
+KvrStatus kvriConvert_16u32s_C4R(const Kvr16u* pSrc, int srcStep, Kvr32s* pDst, int dstStep, KvriSize roiSize);
+KvrStatus kvriConvert_16u32s_AC4R(const Kvr16u* pSrc, int srcStep, Kvr32s* pDst, int dstStep, KvriSize roiSize);
+KvrStatus kvriConvert_16s32s_C1R(const Kvr16s* pSrc, int srcStep, Kvr32s* pDst, int dstStep, KvriSize roiSize);
+KvrStatus kvriConvert_16s32s_C3R(const Kvr16s* pSrc, int srcStep, Kvr32s* pDst, int dstStep, KvriSize roiSize);
+KvrStatus kvriConvert_16s32s_C4R(const Kvr16s* pSrc, int srcStep, Kvr32s* pDst, int dstStep, KvriSize roiSize);
+KvrStatus kvriConvert_16s32s_AC4R(const Kvr16s* pSrc, int srcStep, Kvr32s* pDst, int dstStep, KvriSize roiSize);
+KvrStatus kvriConvert_8s16s_C1R(const Kvr8s* pSrc, int srcStep, Kvr16s* pDst, int dstStep, KvriSize roiSize);
+KvrStatus kvriConvert_16u32u_C1R(const Kvr16u* pSrc, int srcStep, Kvr32u* pDst, int dstStep, KvriSize roiSize);
+KvrStatus kvriConvert_32s32f_C1R(const Kvr32s* pSrc, int srcStep, Kvr32f* pDst, int dstStep, KvriSize roiSize);
+KvrStatus kvriConvert_32u32f_C1R(const Kvr32u* pSrc, int srcStep, Kvr32f* pDst, int dstStep, KvriSize roiSize);
+
+/* Convert, signed to unsigned - negative samples become 0, others stay what they are. Errors and steps as above. */
+KvrStatus kvriConvert_8s8u_C1Rs(const Kvr8s* pSrc, int srcStep, Kvr8u* pDst, int dstStep, KvriSize roiSize);
+KvrStatus kvriConvert_8s16u_C1Rs(const Kvr8s* pSrc, int srcStep, Kvr16u* pDst, int dstStep, KvriSize roiSize);
+KvrStatus kvriConvert_8s32u_C1Rs(const Kvr8s* pSrc, int srcStep, Kvr32u* pDst, int dstStep, KvriSize roiSize);
+KvrStatus kvriConvert_16s16u_C1Rs(const Kvr16s* pSrc, int srcStep, Kvr16u* pDst, int dstStep, KvriSize roiSize);
+KvrStatus kvriConvert_16s32u_C1Rs(const Kvr16s* pSrc, int srcStep, Kvr32u* pDst, int dstStep, KvriSize roiSize);
+KvrStatus kvriConvert_32s32u_C1Rs(const Kvr32s* pSrc, int srcStep, Kvr32u* pDst, int dstStep, KvriSize roiSize);
+
+/* Convert, 32f to integers - rounded by roundMode, of which every value but 0 and 1 means 2, and saturated; infinities become
+ * the type's limits, NaN 0. The processor's floating-point state has no influence and stays what it is.
+ * Errors, in this order: null pointer -8, width or height below 1 -6, step below 1 -14. */
+KvrStatus kvriConvert_32f8u_C1R(const Kvr32f* pSrc, int srcStep, Kvr8u* pDst, int dstStep, KvriSize roiSize, KvrRoundMode roundMode);
+KvrStatus kvriConvert_32f8u_C3R(const Kvr32f* pSrc, int srcStep, Kvr8u* pDst, int dstStep, KvriSize roiSize, KvrRoundMode roundMode);
+KvrStatus kvriConvert_32f8u_C4R(const Kvr32f* pSrc, int srcStep, Kvr8u* pDst, int dstStep, KvriSize roiSize, KvrRoundMode roundMode);
+KvrStatus kvriConvert_32f8u_AC4R(const Kvr32f* pSrc, int srcStep, Kvr8u* pDst, int dstStep, KvriSize roiSize, KvrRoundMode roundMode);
+KvrStatus kvriConvert_32f8s_C1R(const Kvr32f* pSrc, int srcStep, Kvr8s* pDst, int dstStep, KvriSize roiSize, KvrRoundMode roundMode);
+KvrStatus kvriConvert_32f8s_C3R(const Kvr32f* pSrc, int srcStep, Kvr8s* pDst, int dstStep, KvriSize roiSize, KvrRoundMode roundMode);
+KvrStatus kvriConvert_32f8s_C4R(const Kvr32f* pSrc, int srcStep, Kvr8s* pDst, int dstStep, KvriSize roiSize, KvrRoundMode roundMode);
+KvrStatus kvriConvert_32f8s_AC4R(const Kvr32f* pSrc, int srcStep, Kvr8s* pDst, int dstStep, KvriSize roiSize, KvrRoundMode roundMode);
+KvrStatus kvriConvert_32f16u_C1R(const Kvr32f* pSrc, int srcStep, Kvr16u* pDst, int dstStep, KvriSize roiSize, KvrRoundMode roundMode);
+KvrStatus kvriConvert_32f16u_C3R(const Kvr32f* pSrc, int srcStep, Kvr16u* pDst, int dstStep, KvriSize roiSize, KvrRoundMode roundMode);
+KvrStatus kvriConvert_32f16u_C4R(const Kvr32f* pSrc, int srcStep, Kvr16u* pDst, int dstStep, KvriSize roiSize, KvrRoundMode roundMode);
+KvrStatus kvriConvert_32f16u_AC4R(const Kvr32f* pSrc, int srcStep, Kvr16u* pDst, int dstStep, KvriSize roiSize, KvrRoundMode roundMode);
+KvrStatus kvriConvert_32f16s_C1R(const Kvr32f* pSrc, int srcStep, Kvr16s* pDst, int dstStep, KvriSize roiSize, KvrRoundMode roundMode);
+KvrStatus kvriConvert_32f16s_C3R(const Kvr32f* pSrc, int srcStep, Kvr16s* pDst, int dstStep, KvriSize roiSize, KvrRoundMode roundMode);
+KvrStatus kvriConvert_32f16s_C4R(const Kvr32f* pSrc, int srcStep, Kvr16s* pDst, int dstStep, KvriSize roiSize, KvrRoundMode roundMode);
+KvrStatus kvriConvert_32f16s_AC4R(const Kvr32f* pSrc, int srcStep, Kvr16s* pDst, int dstStep, KvriSize roiSize, KvrRoundMode roundMode);
+
+/* Convert, scaled - samples times 2^-scaleFactor, for any scale factor, exactly; then rounded and saturated like 32f above.
+ * The in-place form has its 32f samples in the image whose 32u results replace them.
+ * Errors, in this order: null pointer -8, width or height below 1 -6. Any step is accepted. */
+KvrStatus kvriConvert_16s8s_C1RSfs(const Kvr16s* pSrc, int srcStep, Kvr8s* pDst, int dstStep, KvriSize roiSize, KvrRoundMode roundMode, int scaleFactor);
+KvrStatus kvriConvert_16u16s_C1RSfs(const Kvr16u* pSrc, int srcStep, Kvr16s* pDst, int dstStep, KvriSize roiSize, KvrRoundMode roundMode, int scaleFactor);
+KvrStatus kvriConvert_16u8s_C1RSfs(const Kvr16u* pSrc, int srcStep, Kvr8s* pDst, int dstStep, KvriSize roiSize, KvrRoundMode roundMode, int scaleFactor);
+KvrStatus kvriConvert_32s16s_C1RSfs(const Kvr32s* pSrc, int srcStep, Kvr16s* pDst, int dstStep, KvriSize roiSize, KvrRoundMode roundMode, int scaleFactor);
+KvrStatus kvriConvert_32s16u_C1RSfs(const Kvr32s* pSrc, int srcStep, Kvr16u* pDst, int dstStep, KvriSize roiSize, KvrRoundMode roundMode, int scaleFactor);
+KvrStatus kvriConvert_32u16s_C1RSfs(const Kvr32u* pSrc, int srcStep, Kvr16s* pDst, int dstStep, KvriSize roiSize, KvrRoundMode roundMode, int scaleFactor);
+KvrStatus kvriConvert_32u16u_C1RSfs(const Kvr32u* pSrc, int srcStep, Kvr16u* pDst, int dstStep, KvriSize roiSize, KvrRoundMode roundMode, int scaleFactor);
+KvrStatus kvriConvert_32u32s_C1RSfs(const Kvr32u* pSrc, int srcStep, Kvr32s* pDst, int dstStep, KvriSize roiSize, KvrRoundMode roundMode, int scaleFactor);
+KvrStatus kvriConvert_32u8s_C1RSfs(const Kvr32u* pSrc, int srcStep, Kvr8s* pDst, int dstStep, KvriSize roiSize, KvrRoundMode roundMode, int scaleFactor);
+KvrStatus kvriConvert_32u8u_C1RSfs(const Kvr32u* pSrc, int srcStep, Kvr8u* pDst, int dstStep, KvriSize roiSize, KvrRoundMode roundMode, int scaleFactor);
+KvrStatus kvriConvert_8u8s_C1RSfs(const Kvr8u* pSrc, int srcStep, Kvr8s* pDst, int dstStep, KvriSize roiSize, KvrRoundMode roundMode, int scaleFactor);
+KvrStatus kvriConvert_32f8u_C1RSfs(const Kvr32f* pSrc, int srcStep, Kvr8u* pDst, int dstStep, KvriSize roiSize, KvrRoundMode roundMode, int scaleFactor);
+KvrStatus kvriConvert_32f8s_C1RSfs(const Kvr32f* pSrc, int srcStep, Kvr8s* pDst, int dstStep, KvriSize roiSize, KvrRoundMode roundMode, int scaleFactor);
+KvrStatus kvriConvert_32f16u_C1RSfs(const Kvr32f* pSrc, int srcStep, Kvr16u* pDst, int dstStep, KvriSize roiSize, KvrRoundMode roundMode, int scaleFactor);
+KvrStatus kvriConvert_32f16s_C1RSfs(const Kvr32f* pSrc, int srcStep, Kvr16s* pDst, int dstStep, KvriSize roiSize, KvrRoundMode roundMode, int scaleFactor);
+KvrStatus kvriConvert_32f32s_C1RSfs(const Kvr32f* pSrc, int srcStep, Kvr32s* pDst, int dstStep, KvriSize roiSize, KvrRoundMode roundMode, int scaleFactor);
+KvrStatus kvriConvert_32f32u_C1RSfs(const Kvr32f* pSrc, int srcStep, Kvr32u* pDst, int dstStep, KvriSize roiSize, KvrRoundMode roundMode, int scaleFactor);
+KvrStatus kvriConvert_32f32u_C1IRSfs(Kvr32u* pSrcDst, int srcDstStep, KvriSize roiSize, KvrRoundMode roundMode, int scaleFactor);
+
+/* Convert, one bit to 8u - 0 becomes 0, 1 becomes 255. Eight pixels lie in a byte, the first in the most significant bit.
+ * Each row's first pixel is bit srcBitOffset, counted likewise, from the row's start on; it may be 8 and more. Only bytes
+ * that hold the row's bits are read.
+ * Errors, in this order: null pointer -8, width or height below 1 -6, step below 1 -14, negative offset -6. */
+KvrStatus kvriConvert_1u8u_C1R(const Kvr8u* pSrc, int srcStep, int srcBitOffset, Kvr8u* pDst, int dstStep, KvriSize roiSize);
+
+/* Scale, integers - the range of the source's type linearly onto that of the destination's, rounded to nearest: 8u16s is
+ * v * 257 - 32768, 16u8u is v / 257. AC4 leaves the destination's fourth channel as it is.
+ * Pixel by pixel; the images may not overlap.
+ * Errors, in this order: null pointer -8, width or height below 1 -6, step below 1 -14. */
+KvrStatus kvriScale_8u16u_C1R(const Kvr8u* pSrc, int srcStep, Kvr16u* pDst, int dstStep, KvriSize roiSize);
+KvrStatus kvriScale_8u16u_C3R(const Kvr8u* pSrc, int srcStep, Kvr16u* pDst, int dstStep, KvriSize roiSize);
+KvrStatus kvriScale_8u16u_C4R(const Kvr8u* pSrc, int srcStep, Kvr16u* pDst, int dstStep, KvriSize roiSize);
+KvrStatus kvriScale_8u16u_AC4R(const Kvr8u* pSrc, int srcStep, Kvr16u* pDst, int dstStep, KvriSize roiSize);
+KvrStatus kvriScale_8u16s_C1R(const Kvr8u* pSrc, int srcStep, Kvr16s* pDst, int dstStep, KvriSize roiSize);
+KvrStatus kvriScale_8u16s_C3R(const Kvr8u* pSrc, int srcStep, Kvr16s* pDst, int dstStep, KvriSize roiSize);
+KvrStatus kvriScale_8u16s_C4R(const Kvr8u* pSrc, int srcStep, Kvr16s* pDst, int dstStep, KvriSize roiSize);
+KvrStatus kvriScale_8u16s_AC4R(const Kvr8u* pSrc, int srcStep, Kvr16s* pDst, int dstStep, KvriSize roiSize);
+KvrStatus kvriScale_8u32s_C1R(const Kvr8u* pSrc, int srcStep, Kvr32s* pDst, int dstStep, KvriSize roiSize);
+KvrStatus kvriScale_8u32s_C3R(const Kvr8u* pSrc, int srcStep, Kvr32s* pDst, int dstStep, KvriSize roiSize);
+KvrStatus kvriScale_8u32s_C4R(const Kvr8u* pSrc, int srcStep, Kvr32s* pDst, int dstStep, KvriSize roiSize);
+KvrStatus kvriScale_8u32s_AC4R(const Kvr8u* pSrc, int srcStep, Kvr32s* pDst, int dstStep, KvriSize roiSize);
+KvrStatus kvriScale_16u8u_C1R(const Kvr16u* pSrc, int srcStep, Kvr8u* pDst, int dstStep, KvriSize roiSize);
+KvrStatus kvriScale_16u8u_C3R(const Kvr16u* pSrc, int srcStep, Kvr8u* pDst, int dstStep, KvriSize roiSize);
+KvrStatus kvriScale_16u8u_C4R(const Kvr16u* pSrc, int srcStep, Kvr8u* pDst, int dstStep, KvriSize roiSize);
+KvrStatus kvriScale_16u8u_AC4R(const Kvr16u* pSrc, int srcStep, Kvr8u* pDst, int dstStep, KvriSize roiSize);
+KvrStatus kvriScale_16s8u_C1R(const Kvr16s* pSrc, int srcStep, Kvr8u* pDst, int dstStep, KvriSize roiSize);
+KvrStatus kvriScale_16s8u_C3R(const Kvr16s* pSrc, int srcStep, Kvr8u* pDst, int dstStep, KvriSize roiSize);
+KvrStatus kvriScale_16s8u_C4R(const Kvr16s* pSrc, int srcStep, Kvr8u* pDst, int dstStep, KvriSize roiSize);
+KvrStatus kvriScale_16s8u_AC4R(const Kvr16s* pSrc, int srcStep, Kvr8u* pDst, int dstStep, KvriSize roiSize);
+KvrStatus kvriScale_32s8u_C1R(const Kvr32s* pSrc, int srcStep, Kvr8u* pDst, int dstStep, KvriSize roiSize);
+KvrStatus kvriScale_32s8u_C3R(const Kvr32s* pSrc, int srcStep, Kvr8u* pDst, int dstStep, KvriSize roiSize);
+KvrStatus kvriScale_32s8u_C4R(const Kvr32s* pSrc, int srcStep, Kvr8u* pDst, int dstStep, KvriSize roiSize);
+KvrStatus kvriScale_32s8u_AC4R(const Kvr32s* pSrc, int srcStep, Kvr8u* pDst, int dstStep, KvriSize roiSize);
+
+/* Scale, 8u and 32f - 0 to 255 onto vMin to vMax: 8u32f is vMin + v * ((vMax - vMin) / 255), by the processor's rounding mode
+ * as the caller has set it. 32f8u is v * k - vMin * k where k = 255 / (vMax - vMin), rounded to nearest with ties to even in
+ * any case, and saturated, NaN 0. Every operation is one of single precision.
+ * Errors, in this order: vMax - vMin not above 0 -13, null pointer -8, width or height below 1 -6, step below 1 -14. */
+KvrStatus kvriScale_8u32f_C1R(const Kvr8u* pSrc, int srcStep, Kvr32f* pDst, int dstStep, KvriSize roiSize, Kvr32f vMin, Kvr32f vMax);
+KvrStatus kvriScale_8u32f_C3R(const Kvr8u* pSrc, int srcStep, Kvr32f* pDst, int dstStep, KvriSize roiSize, Kvr32f vMin, Kvr32f vMax);
+KvrStatus kvriScale_8u32f_C4R(const Kvr8u* pSrc, int srcStep, Kvr32f* pDst, int dstStep, KvriSize roiSize, Kvr32f vMin, Kvr32f vMax);
+KvrStatus kvriScale_8u32f_AC4R(const Kvr8u* pSrc, int srcStep, Kvr32f* pDst, int dstStep, KvriSize roiSize, Kvr32f vMin, Kvr32f vMax);
+KvrStatus kvriScale_32f8u_C1R(const Kvr32f* pSrc, int srcStep, Kvr8u* pDst, int dstStep, KvriSize roiSize, Kvr32f vMin, Kvr32f vMax);
+KvrStatus kvriScale_32f8u_C3R(const Kvr32f* pSrc, int srcStep, Kvr8u* pDst, int dstStep, KvriSize roiSize, Kvr32f vMin, Kvr32f vMax);
+KvrStatus kvriScale_32f8u_C4R(const Kvr32f* pSrc, int srcStep, Kvr8u* pDst, int dstStep, KvriSize roiSize, Kvr32f vMin, Kvr32f vMax);
+KvrStatus kvriScale_32f8u_AC4R(const Kvr32f* pSrc, int srcStep, Kvr8u* pDst, int dstStep, KvriSize roiSize, Kvr32f vMin, Kvr32f vMax);
+/* Mirror - the image turned about the line that KvriAxis names: about the horizontal axis (rows change places), the vertical
+ * axis (each row is reversed), both, the main diagonal, or the other diagonal. Of the latter two the destination is
+ * roiSize.height pixels wide and roiSize.width high. AC4 leaves the destination's fourth channel as it is.
+ * Source and destination may not overlap, but they may be one image: equal pointers and equal steps with axis 0, 1 or 2
+ * work in place.
+ * Errors, in this order, of axes 0, 1 and 2: in one image those of the in-place form; null pointer -8, width or height below
+ * 1 -6, any axis but 0 to 4 -21, height below 2 for axes 0 and 2 or width below 2 for axes 1 and 2 -6. Any step is accepted.
+ * Of axes 3 and 4: null pointer -8, step below 1 -14, width or height below 1 -6, memory of the source (first byte of the
+ * first row to last byte of the last) that overlaps the destination's -9999, so in one image always. */
+KvrStatus kvriMirror_8u_C1R(const Kvr8u* pSrc, int srcStep, Kvr8u* pDst, int dstStep, KvriSize roiSize, KvriAxis axis);
+KvrStatus kvriMirror_8u_C3R(const Kvr8u* pSrc, int srcStep, Kvr8u* pDst, int dstStep, KvriSize roiSize, KvriAxis axis);
+KvrStatus kvriMirror_8u_C4R(const Kvr8u* pSrc, int srcStep, Kvr8u* pDst, int dstStep, KvriSize roiSize, KvriAxis axis);
+KvrStatus kvriMirror_8u_AC4R(const Kvr8u* pSrc, int srcStep, Kvr8u* pDst, int dstStep, KvriSize roiSize, KvriAxis axis);
+KvrStatus kvriMirror_16u_C1R(const Kvr16u* pSrc, int srcStep, Kvr16u* pDst, int dstStep, KvriSize roiSize, KvriAxis axis);
+KvrStatus kvriMirror_16u_C3R(const Kvr16u* pSrc, int srcStep, Kvr16u* pDst, int dstStep, KvriSize roiSize, KvriAxis axis);
+KvrStatus kvriMirror_16u_C4R(const Kvr16u* pSrc, int srcStep, Kvr16u* pDst, int dstStep, KvriSize roiSize, KvriAxis axis);
+KvrStatus kvriMirror_16u_AC4R(const Kvr16u* pSrc, int srcStep, Kvr16u* pDst, int dstStep, KvriSize roiSize, KvriAxis axis);
+KvrStatus kvriMirror_16s_C1R(const Kvr16s* pSrc, int srcStep, Kvr16s* pDst, int dstStep, KvriSize roiSize, KvriAxis axis);
+KvrStatus kvriMirror_16s_C3R(const Kvr16s* pSrc, int srcStep, Kvr16s* pDst, int dstStep, KvriSize roiSize, KvriAxis axis);
+KvrStatus kvriMirror_16s_C4R(const Kvr16s* pSrc, int srcStep, Kvr16s* pDst, int dstStep, KvriSize roiSize, KvriAxis axis);
+KvrStatus kvriMirror_16s_AC4R(const Kvr16s* pSrc, int srcStep, Kvr16s* pDst, int dstStep, KvriSize roiSize, KvriAxis axis);
+KvrStatus kvriMirror_32s_C1R(const Kvr32s* pSrc, int srcStep, Kvr32s* pDst, int dstStep, KvriSize roiSize, KvriAxis axis);
+KvrStatus kvriMirror_32s_C3R(const Kvr32s* pSrc, int srcStep, Kvr32s* pDst, int dstStep, KvriSize roiSize, KvriAxis axis);
+KvrStatus kvriMirror_32s_C4R(const Kvr32s* pSrc, int srcStep, Kvr32s* pDst, int dstStep, KvriSize roiSize, KvriAxis axis);
+KvrStatus kvriMirror_32s_AC4R(const Kvr32s* pSrc, int srcStep, Kvr32s* pDst, int dstStep, KvriSize roiSize, KvriAxis axis);
+KvrStatus kvriMirror_32f_C1R(const Kvr32f* pSrc, int srcStep, Kvr32f* pDst, int dstStep, KvriSize roiSize, KvriAxis axis);
+KvrStatus kvriMirror_32f_C3R(const Kvr32f* pSrc, int srcStep, Kvr32f* pDst, int dstStep, KvriSize roiSize, KvriAxis axis);
+KvrStatus kvriMirror_32f_C4R(const Kvr32f* pSrc, int srcStep, Kvr32f* pDst, int dstStep, KvriSize roiSize, KvriAxis axis);
+KvrStatus kvriMirror_32f_AC4R(const Kvr32f* pSrc, int srcStep, Kvr32f* pDst, int dstStep, KvriSize roiSize, KvriAxis axis);
+
+/* Mirror in place - axes 0, 1 and 2 alone. AC4 moves the colours; every alpha stays where it is.
+ * Errors, in this order: null pointer -8, width or height below 1 -6, any other axis -21, height below 2 for axes 0 and 2
+ * or width below 2 for axes 1 and 2 -6. Any step is accepted. */
+KvrStatus kvriMirror_8u_C1IR(Kvr8u* pSrcDst, int srcDstStep, KvriSize roiSize, KvriAxis axis);
+KvrStatus kvriMirror_8u_C3IR(Kvr8u* pSrcDst, int srcDstStep, KvriSize roiSize, KvriAxis axis);
+KvrStatus kvriMirror_8u_C4IR(Kvr8u* pSrcDst, int srcDstStep, KvriSize roiSize, KvriAxis axis);
+KvrStatus kvriMirror_8u_AC4IR(Kvr8u* pSrcDst, int srcDstStep, KvriSize roiSize, KvriAxis axis);
+KvrStatus kvriMirror_16u_C1IR(Kvr16u* pSrcDst, int srcDstStep, KvriSize roiSize, KvriAxis axis);
+KvrStatus kvriMirror_16u_C3IR(Kvr16u* pSrcDst, int srcDstStep, KvriSize roiSize, KvriAxis axis);
+KvrStatus kvriMirror_16u_C4IR(Kvr16u* pSrcDst, int srcDstStep, KvriSize roiSize, KvriAxis axis);
+KvrStatus kvriMirror_16u_AC4IR(Kvr16u* pSrcDst, int srcDstStep, KvriSize roiSize, KvriAxis axis);
+KvrStatus kvriMirror_16s_C1IR(Kvr16s* pSrcDst, int srcDstStep, KvriSize roiSize, KvriAxis axis);
+KvrStatus kvriMirror_16s_C3IR(Kvr16s* pSrcDst, int srcDstStep, KvriSize roiSize, KvriAxis axis);
+KvrStatus kvriMirror_16s_C4IR(Kvr16s* pSrcDst, int srcDstStep, KvriSize roiSize, KvriAxis axis);
+KvrStatus kvriMirror_16s_AC4IR(Kvr16s* pSrcDst, int srcDstStep, KvriSize roiSize, KvriAxis axis);
+KvrStatus kvriMirror_32s_C1IR(Kvr32s* pSrcDst, int srcDstStep, KvriSize roiSize, KvriAxis axis);
+KvrStatus kvriMirror_32s_C3IR(Kvr32s* pSrcDst, int srcDstStep, KvriSize roiSize, KvriAxis axis);
+KvrStatus kvriMirror_32s_C4IR(Kvr32s* pSrcDst, int srcDstStep, KvriSize roiSize, KvriAxis axis);
+KvrStatus kvriMirror_32s_AC4IR(Kvr32s* pSrcDst, int srcDstStep, KvriSize roiSize, KvriAxis axis);
+KvrStatus kvriMirror_32f_C1IR(Kvr32f* pSrcDst, int srcDstStep, KvriSize roiSize, KvriAxis axis);
+KvrStatus kvriMirror_32f_C3IR(Kvr32f* pSrcDst, int srcDstStep, KvriSize roiSize, KvriAxis axis);
+KvrStatus kvriMirror_32f_C4IR(Kvr32f* pSrcDst, int srcDstStep, KvriSize roiSize, KvriAxis axis);
+KvrStatus kvriMirror_32f_AC4IR(Kvr32f* pSrcDst, int srcDstStep, KvriSize roiSize, KvriAxis axis);
+
+/* Transpose - destination pixel (x, y) is source pixel (y, x): the destination is srcRoiSize.height pixels wide and
+ * srcRoiSize.width high. Source and destination may not overlap, but they may be one image: equal pointers and equal steps
+ * work in place.
+ * Errors, in this order: in one image those of the in-place form; null pointer -8, width or height below 1 -6. Any step is
+ * accepted. */
+KvrStatus kvriTranspose_8u_C1R(const Kvr8u* pSrc, int srcStep, Kvr8u* pDst, int dstStep, KvriSize srcRoiSize);
+KvrStatus kvriTranspose_8u_C3R(const Kvr8u* pSrc, int srcStep, Kvr8u* pDst, int dstStep, KvriSize srcRoiSize);
+KvrStatus kvriTranspose_8u_C4R(const Kvr8u* pSrc, int srcStep, Kvr8u* pDst, int dstStep, KvriSize srcRoiSize);
+KvrStatus kvriTranspose_16u_C1R(const Kvr16u* pSrc, int srcStep, Kvr16u* pDst, int dstStep, KvriSize srcRoiSize);
+KvrStatus kvriTranspose_16u_C3R(const Kvr16u* pSrc, int srcStep, Kvr16u* pDst, int dstStep, KvriSize srcRoiSize);
+KvrStatus kvriTranspose_16u_C4R(const Kvr16u* pSrc, int srcStep, Kvr16u* pDst, int dstStep, KvriSize srcRoiSize);
+KvrStatus kvriTranspose_16s_C1R(const Kvr16s* pSrc, int srcStep, Kvr16s* pDst, int dstStep, KvriSize srcRoiSize);
+KvrStatus kvriTranspose_16s_C3R(const Kvr16s* pSrc, int srcStep, Kvr16s* pDst, int dstStep, KvriSize srcRoiSize);
+KvrStatus kvriTranspose_16s_C4R(const Kvr16s* pSrc, int srcStep, Kvr16s* pDst, int dstStep, KvriSize srcRoiSize);
+KvrStatus kvriTranspose_32s_C1R(const Kvr32s* pSrc, int srcStep, Kvr32s* pDst, int dstStep, KvriSize srcRoiSize);
+KvrStatus kvriTranspose_32s_C3R(const Kvr32s* pSrc, int srcStep, Kvr32s* pDst, int dstStep, KvriSize srcRoiSize);
+KvrStatus kvriTranspose_32s_C4R(const Kvr32s* pSrc, int srcStep, Kvr32s* pDst, int dstStep, KvriSize srcRoiSize);
+KvrStatus kvriTranspose_32f_C1R(const Kvr32f* pSrc, int srcStep, Kvr32f* pDst, int dstStep, KvriSize srcRoiSize);
+KvrStatus kvriTranspose_32f_C3R(const Kvr32f* pSrc, int srcStep, Kvr32f* pDst, int dstStep, KvriSize srcRoiSize);
+KvrStatus kvriTranspose_32f_C4R(const Kvr32f* pSrc, int srcStep, Kvr32f* pDst, int dstStep, KvriSize srcRoiSize);
+
+/* Transpose in place - errors, in this order: null pointer -8, width or height below 1, or one unlike the other -6. Any step
+ * is accepted. */
+KvrStatus kvriTranspose_8u_C1IR(Kvr8u* pSrcDst, int srcDstStep, KvriSize roiSize);
+KvrStatus kvriTranspose_8u_C3IR(Kvr8u* pSrcDst, int srcDstStep, KvriSize roiSize);
+KvrStatus kvriTranspose_8u_C4IR(Kvr8u* pSrcDst, int srcDstStep, KvriSize roiSize);
+KvrStatus kvriTranspose_16u_C1IR(Kvr16u* pSrcDst, int srcDstStep, KvriSize roiSize);
+KvrStatus kvriTranspose_16u_C3IR(Kvr16u* pSrcDst, int srcDstStep, KvriSize roiSize);
+KvrStatus kvriTranspose_16u_C4IR(Kvr16u* pSrcDst, int srcDstStep, KvriSize roiSize);
+KvrStatus kvriTranspose_16s_C1IR(Kvr16s* pSrcDst, int srcDstStep, KvriSize roiSize);
+KvrStatus kvriTranspose_16s_C3IR(Kvr16s* pSrcDst, int srcDstStep, KvriSize roiSize);
+KvrStatus kvriTranspose_16s_C4IR(Kvr16s* pSrcDst, int srcDstStep, KvriSize roiSize);
+KvrStatus kvriTranspose_32s_C1IR(Kvr32s* pSrcDst, int srcDstStep, KvriSize roiSize);
+KvrStatus kvriTranspose_32s_C3IR(Kvr32s* pSrcDst, int srcDstStep, KvriSize roiSize);
+KvrStatus kvriTranspose_32s_C4IR(Kvr32s* pSrcDst, int srcDstStep, KvriSize roiSize);
+KvrStatus kvriTranspose_32f_C1IR(Kvr32f* pSrcDst, int srcDstStep, KvriSize roiSize);
+KvrStatus kvriTranspose_32f_C3IR(Kvr32f* pSrcDst, int srcDstStep, KvriSize roiSize);
+KvrStatus kvriTranspose_32f_C4IR(Kvr32f* pSrcDst, int srcDstStep, KvriSize roiSize);
+
 #pragma GCC visibility pop
 #ifdef __cplusplus
 }

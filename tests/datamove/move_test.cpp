@@ -62,19 +62,6 @@ TEST(Move, KeepsTheBitsOfSignallingNans) {
     for (int x = 0; x < 20; ++x) EXPECT_EQ(0, std::memcmp(dst + x, bits, 4));
 }
 
-// Address space without memory behind it, but for the pages that are touched.
-struct Reserved {
-    size_t bytes;
-    uint8_t* p;
-    explicit Reserved(size_t bytes) : bytes(bytes) {
-        void* m = mmap(nullptr, bytes, PROT_READ | PROT_WRITE, MAP_PRIVATE | MAP_ANONYMOUS | MAP_NORESERVE, -1, 0);
-        p = m == MAP_FAILED ? nullptr : static_cast<uint8_t*>(m);
-    }
-    ~Reserved() {
-        if (p) munmap(p, bytes);
-    }
-};
-
 TEST(Move, RowsAndStepsBeyondTwoGigabytes) {
     constexpr int width = (1 << 27) + 5;  // pixels of 16 bytes
     Reserved src(size_t(width) * 16), dst(size_t(width) * 16), mask(width);

@@ -123,4 +123,17 @@ private:
     }
 };
 
+// Address space without memory behind it, but for the pages that are touched.
+struct Reserved {
+    size_t bytes;
+    uint8_t* p;
+    explicit Reserved(size_t bytes) : bytes(bytes) {
+        void* m = mmap(nullptr, bytes, PROT_READ | PROT_WRITE, MAP_PRIVATE | MAP_ANONYMOUS | MAP_NORESERVE, -1, 0);
+        p = m == MAP_FAILED ? nullptr : static_cast<uint8_t*>(m);
+    }
+    ~Reserved() {
+        if (p) munmap(p, bytes);
+    }
+};
+
 }  // namespace test
