@@ -31,8 +31,12 @@ Job prepare(const Case& c, const Geometry& g, int scale) {
 
 void addUnary() {
     for (const Case& c : kUnary) {
-        if (!c.scales()) add(c.name, "", [=](const Geometry& g) { return prepare(c, g, 0); });
-        else for (int scale : {0, 1, -4}) add(c.name, "sf" + std::to_string(scale), [=](const Geometry& g) { return prepare(c, g, scale); });
+        auto addScale = [&](int scale) {
+            const std::string variant = c.scales() ? "sf" + std::to_string(scale) : "";
+            add(c.name, variant, [=](const Geometry& g) { return prepare(c, g, scale); });
+        };
+        addScale(0);
+        if (c.scales()) addScale(1), addScale(-4);
     }
 }
 

@@ -313,6 +313,17 @@ inline Vec<int32_t, sizeof(V)> towardZero(V v) {
     KVRI_BY_WIDTH(R, cvttps_epi32, raw(v));
 }
 
+// 32f or 32s to 64f: half a vector of them.
+template <class H>
+inline Vec<double, 2 * sizeof(H)> toDoubles(H h) {
+#if defined(__AVX512BW__)  // where the compiler would convert quarters
+    if constexpr (sizeof(H) == 32 && kHolds<H, float>) return (Vec<double, 64>)_mm512_cvtps_pd((__m256)h);
+    else if constexpr (sizeof(H) == 32) return (Vec<double, 64>)_mm512_cvtepi32_pd((__m256i)h);
+    else
+#endif
+    return __builtin_convertvector(h, Vec<double, 2 * sizeof(H)>);
+}
+
 // The same to 32u, of numbers that are not negative; what lies above the range becomes its maximum.
 #if defined(__AVX512BW__)
 inline Vec<uint32_t> toNearestUnsigned(Vec<float> v) { return (Vec<uint32_t>)_mm512_cvtps_epu32((__m512)v); }

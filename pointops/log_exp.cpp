@@ -75,7 +75,7 @@ struct Ln {
         using Single = IntegerLogarithm<T, SingleLogarithms>;
         const DefaultFloatControl control;
         const auto map = [&](const auto& op) { return mapLogarithms(task, op); };
-        if constexpr (sizeof(T) == 1) return map(TableLookup{ByteTable(Single{SingleLogarithms(scaleFactor)})});
+        if constexpr (sizeof(T) == 1) return map(TableOf(Single{SingleLogarithms(scaleFactor)}));
         else if (scaleFactor >= SingleLogarithms::leastScaleFactor) return map(Single{SingleLogarithms(scaleFactor)});
         else return map(IntegerLogarithm<T, DoubleLogarithms>{DoubleLogarithms(scaleFactor)});
     }

@@ -110,7 +110,7 @@ struct Sqrt {
     template <class T, class Task>
     static KvrStatus run(const Task& task, int scaleFactor) {
         const DefaultFloatControl control;
-        if constexpr (sizeof(T) == 1) task(TableLookup{ByteTable(IntegerRoot<T, SmallRoots>{SmallRoots(scaleFactor)})});
+        if constexpr (sizeof(T) == 1) task(TableOf(IntegerRoot<T, SmallRoots>{SmallRoots(scaleFactor)}));
         else if (scaleFactor >= -3) task(IntegerRoot<T, SmallRoots>{SmallRoots(scaleFactor)});
         else task(IntegerRoot<T, LargeRoots>{LargeRoots(magnitude(scaleFactor), std::numeric_limits<T>::max())});
         return kvrStatusOk;

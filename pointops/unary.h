@@ -6,17 +6,27 @@
 
 #include <cmath>
 
-#include "core/table.h"
 #include "pointops/arithmetic.h"
+#include "pointops/bytetable.h"
 
 namespace kvri {
 
 // Any operation on bytes, for the cost of computing 256 of them.
-struct TableLookup {
+class TableOf {
+    ByteTable table_;
+
+public:
     using Sample = uint8_t;
     static constexpr int unrolled = 2;
-    ByteTable table;
-    Bytes<> operator()(Bytes<> v) const { return table(v); }
+
+    template <class Op>
+    explicit TableOf(const Op& op) {
+        alignas(Bytes<>) uint8_t result[256];
+        for (int first = 0; first < 256; first += kVectorBytes)
+            store(result + first, op(constant<Bytes<>>([](int i) { return i; }) + uint8_t(first)));
+        table_ = ByteTable(result);
+    }
+    Bytes<> operator()(Bytes<> v) const { return table_(v); }
 };
 
 template <class T, class L>

@@ -49,7 +49,8 @@ void expectWithinOneUnit(Map map, double (*right)(double), KvrStatus status, uin
 }
 
 TEST(Logarithm, IsWithinOneUnitOfTheRoundedValue) {
-    expectWithinOneUnit(kvriLn_32f_C1R, [](double x) { return x == 0 ? 0 : std::log(x); }, kvrStatusLnZeroArgWarning, 3098750276388642972u);
+    const auto logarithm = [](double x) { return x == 0 ? 0 : std::log(x); };
+    expectWithinOneUnit(kvriLn_32f_C1R, logarithm, kvrStatusLnZeroArgWarning, 3098750276388642972u);
 }
 
 TEST(Exponential, IsWithinOneUnitOfTheRoundedValue) {

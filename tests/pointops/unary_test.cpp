@@ -125,12 +125,12 @@ TEST(Unary, MatchesTheContract) {
 // Every value of the type in one row.
 class AllValues {
     const Case& case_;
-    int count_ = 1 << 8 * partBytes(case_.type);
+    int bytes_ = partBytes(case_.type), count_ = 1 << 8 * bytes_;
     std::vector<uint8_t> values_, results_;
 
 public:
-    explicit AllValues(const Case& c) : case_(c), values_(size_t(count_ * partBytes(c.type))), results_(values_.size()) {
-        for (int i = 0; i < count_; ++i) std::memcpy(&values_[size_t(i * partBytes(c.type))], &i, size_t(partBytes(c.type)));
+    explicit AllValues(const Case& c) : case_(c), values_(size_t(count_ * bytes_)), results_(values_.size()) {
+        for (int i = 0; i < count_; ++i) std::memcpy(&values_[size_t(i * bytes_)], &i, size_t(bytes_));
     }
     void expectAt(int scale) {
         Call call;
@@ -140,8 +140,8 @@ public:
         call.scale = scale;
         case_.function(call, 1);
         for (int i = 0; i < count_; ++i) {
-            const int64_t v = contract::load(case_.type, &values_[size_t(i * partBytes(case_.type))]).re;
-            ASSERT_EQ(contract::load(case_.type, &results_[size_t(i * partBytes(case_.type))]).re, expected(case_, v, scale))
+            const int64_t v = contract::load(case_.type, &values_[size_t(i * bytes_)]).re;
+            ASSERT_EQ(contract::load(case_.type, &results_[size_t(i * bytes_)]).re, expected(case_, v, scale))
                 << case_.name << " of " << v << ", scale " << scale;
         }
     }
@@ -171,10 +171,11 @@ TEST(Unary, KeepsTheCallersFloatControl) {
         const KvrStatus status = c.function(usual.call, 1);
         const unsigned before = _mm_getcsr();
         _mm_setcsr(unusual);
+        const unsigned taken = _mm_getcsr();  // valgrind has only the rounding
         const KvrStatus otherStatus = c.function(other.call, 1);
         const unsigned after = _mm_getcsr();
         _mm_setcsr(before);
-        ASSERT_EQ(after & ~flags, unusual) << c.name;
+        ASSERT_EQ(after & ~flags, taken & ~flags) << c.name;
         ASSERT_EQ(otherStatus, status) << c.name;
         ASSERT_EQ(other.d.memory(), usual.d.memory()) << c.name;
     }
@@ -186,9 +187,12 @@ TEST(Unary, ChecksPointersThenSizeThenSteps) {
         void (*make)(Call&);
     };
     const Fault faults[] = {
-        {kvrStatusNullPointer, [](Call& call) { call.dst = nullptr; }},   {kvrStatusNullPointer, [](Call& call) { call.src1 = nullptr; }},
-        {kvrStatusBadSize, [](Call& call) { call.roi.width = 0; }},       {kvrStatusBadSize, [](Call& call) { call.roi.height = -1; }},
-        {kvrStatusBadStep, [](Call& call) { call.dstStep = 0; }},         {kvrStatusBadStep, [](Call& call) { call.step1 = -64; }},
+        {kvrStatusNullPointer, [](Call& call) { call.dst = nullptr; }},
+        {kvrStatusNullPointer, [](Call& call) { call.src1 = nullptr; }},
+        {kvrStatusBadSize, [](Call& call) { call.roi.width = 0; }},
+        {kvrStatusBadSize, [](Call& call) { call.roi.height = -1; }},
+        {kvrStatusBadStep, [](Call& call) { call.dstStep = 0; }},
+        {kvrStatusBadStep, [](Call& call) { call.step1 = -64; }},
     };
     for (const Case& c : kUnary)
         for (unsigned set = 1; set < 64; ++set) {
