@@ -66,6 +66,13 @@ inline Vec<int32_t, sizeof(V)> multiplyPairs(V a, V b) {
     KVRI_BY_WIDTH(R, madd_epi16, raw(a), raw(b));
 }
 
+// Sums of the two products of neighbouring 8u in a and 8s in b, saturated.
+template <class V>
+inline Vec<int16_t, sizeof(V)> multiplyPairsOfBytes(V a, V b) {
+    using R = Vec<int16_t, sizeof(V)>;
+    KVRI_BY_WIDTH(R, maddubs_epi16, raw(a), raw(b));
+}
+
 // 64-bit products of the first of every two 32s.
 template <class V>
 inline Vec<int64_t, sizeof(V)> multiplyEven(V a, V b) {

@@ -36,12 +36,16 @@ void sumRows(const uint8_t* const* rows, const RealOf<T>* weight, int taps, ptrd
     };
     ptrdiff_t i = 0;
     const auto whole = [](const uint8_t* p) KVRI_INLINE { return loadReals<T>(p); };
+    const auto single = [&](ptrdiff_t end) KVRI_INLINE {
+        for (; end - i >= lanes; i += lanes) out.one(i, block(std::integral_constant<int, 1>{}, i, whole));
+        if (i >= end) return;
+        const auto part = [&](const uint8_t* p) KVRI_INLINE { return loadRealsPart<T>(p, end - i); };
+        out.part(i, block(std::integral_constant<int, 1>{}, i, part), end - i);
+        i = end;
+    };
+    if (const ptrdiff_t head = out.head()) single(std::min(head, samples));
     for (; samples - i >= 4 * lanes; i += 4 * lanes) block(std::integral_constant<int, 4>{}, i, whole);
-    for (; samples - i >= lanes; i += lanes) out.one(i, block(std::integral_constant<int, 1>{}, i, whole));
-    if (i < samples) {
-        const auto part = [&](const uint8_t* p) KVRI_INLINE { return loadRealsPart<T>(p, samples - i); };
-        out.part(i, block(std::integral_constant<int, 1>{}, i, part), samples - i);
-    }
+    single(samples);
 }
 
 template <class T, class Out>
@@ -89,6 +93,11 @@ struct Picker {
 #endif
     }
 
+    static Codes codes(Codes n) {
+        if constexpr (kVectorBytes > 16) return n;
+        else return n * uint32_t(0x04040404) + uint32_t(0x03020100);
+    }
+
     template <int Reach>
     static V pick(const F* p, Codes codes) {
         const V a = load<V>(p);
@@ -127,12 +136,13 @@ template <class F>
 class Strip {
     using Pick = Picker<F>;
     using V = Vec<F>;
-    static constexpr int lanes = Pick::lanes, weights = kStripWeightBytes / int(sizeof(F));
+    static constexpr int lanes = Pick::lanes, capacity = kStripWeightBytes / int(sizeof(F));
     enum class Way { OneVector, TwoVectors, PixelByPixel };
 
-    alignas(64) F weight_[weights];
+    alignas(64) F weight_[capacity];
     alignas(64) typename Pick::Code code_[kStripSamples + lanes];
     int32_t base_[kStripSamples];  // of each vector's samples, or of each pixel
+    const F* weights_;             // these, or the object's
     int taps_, stride_;            // stride: weights from tap to tap
     Way way_;
 
@@ -144,9 +154,9 @@ public:
     static int pixelsPerStrip(const ResizeSpec& spec, int channels) {
         const ResizeAxis& x = spec.x;
         const int taps = x.taps, rowPixels = (kStripRowBytes - kRowSlackBytes) / int(sizeof(F)) / channels;
-        if (taps > rowPixels || taps > weights / 4) return 0;
+        if (taps > rowPixels || taps > capacity / 4) return 0;
         const int byRow = int((rowPixels - taps) / std::min<double>(x.ratio() + 1, taps)) + 1;
-        const int perTap = weights / taps, byWeights = perTap < 16 ? perTap / 4 * 4 : perTap / 16 * 16 / channels;
+        const int perTap = capacity / taps, byWeights = perTap < 16 ? perTap / 4 * 4 : perTap / 16 * 16 / channels;
         const int n = std::min({byRow, byWeights, kStripSamples / channels});
         return n >= 16 ? n / 16 * 16 : n;
     }
@@ -159,13 +169,20 @@ public:
         sparse = x.ratio() > taps_;
         first = spec.firstTap(x, position);
         last = spec.firstTap(x, position + count - 1) + taps_ - 1;
-        int32_t place[kStripSamples];
-        for (int i = 0; i < count; ++i) place[i] = (sparse ? i * taps_ : spec.firstTap(x, position + i) - first) * C;
+        int32_t place[kStripSamples + lanes];
+        if (sparse) {
+            for (int i = 0; i < count; ++i) place[i] = i * taps_ * C;
+        } else if (x.period == x.destination) {
+            const auto* index = spec.table<int32_t>(x.index) + position;
+            for (int i = 0; i < count; ++i) place[i] = (index[i] - first) * C;
+        } else {
+            for (int i = 0; i < count; ++i) place[i] = (spec.firstTap(x, position + i) - first) * C;
+        }
+        std::fill(place + count, place + count + lanes, place[count - 1]);
         way_ = makeCodes<C>(place);
-        if (taps_ * wholeVectors(pixels * C) > weights) way_ = Way::PixelByPixel;
+        if (taps_ * wholeVectors(pixels * C) > capacity) way_ = Way::PixelByPixel;
         if (way_ == Way::PixelByPixel) {
-            std::copy(place, place + count, base_);
-            for (int i = count; i % 4 != 0; ++i) base_[i] = place[count - 1];
+            std::copy(place, place + (count + 3) / 4 * 4, base_);
             setWeights<1>(spec, position);
         } else {
             setWeights<C>(spec, position);
@@ -189,24 +206,51 @@ public:
 private:
     static int wholeVectors(int samples) { return (samples + lanes - 1) / lanes * lanes; }
 
-    // Where each sample's first tap lies, from the lowest of its vector's samples on.
+    // Sample i of a vector that starts at sample s of a row is of pixel s / C + (s % C + i) / C: these steps as codes, and the
+    // channels. Steps stay below 16, so that one vector has all pixels.
+    template <int C>
+    struct Samples {
+        using Words = Vec<uint32_t>;
+        static constexpr int n = kVectorBytes / 4;
+
+        static Words pixelCodes(int phase) { return table([](int phase, int i) { return Picker<float>::code(uint32_t(phase + i) / C); }, phase); }
+        static Words channels(int phase) { return table([](int phase, int i) { return uint32_t(phase + i) % C; }, phase); }
+
+    private:
+        template <class Of>
+        static Words table(Of, int phase) {
+            alignas(64) static constexpr auto entries = [] {
+                std::array<uint32_t, n * C> a{};
+                for (int i = 0; i < n * C; ++i) a[i] = Of{}(i / n, i % n);
+                return a;
+            }();
+            return load<Words>(&entries[phase * n]);
+        }
+    };
+
+    // Where each sample's first tap lies, from the lowest of its vector's samples on. Places do not decrease.
     template <int C>
     Way makeCodes(const int32_t* place) {
         int reach = 0;
         const int samples = pixels * C;
         for (int s = 0; s < samples; s += lanes) {
-            int32_t at[lanes], low = INT32_MAX;
-            const int n = std::min(lanes, samples - s);
-            for (int i = 0; i < n; ++i) {
-                at[i] = place[(s + i) / C] + (s + i) % C;
-                low = std::min(low, at[i]);
+            const int end = std::min(s + lanes, samples) - 1;
+            const auto at = [&](int sample) { return place[sample / C] + sample % C; };
+            int low = at(s), high = at(end);
+            if (C > 1 && end / C > s / C) {
+                low = std::min(low, place[s / C + 1]);
+                high = std::max(high, place[end / C - 1] + C - 1);
             }
-            for (int i = 0; i < lanes; ++i) {
-                const int code = i < n ? at[i] - low : 0;
-                reach = std::max(reach, code);
-                code_[s + i] = Pick::code(uint32_t(code));
-            }
+            reach = std::max(reach, high - low);
             base_[s / lanes] = low;
+            if constexpr (sizeof(F) == 4) {
+                using Words = Vec<uint32_t>;
+                const auto pixel = (Words)Pick::template pick<1>(reinterpret_cast<const F*>(place + s / C), Samples<C>::pixelCodes(s % C));
+                const Words n = pixel + Samples<C>::channels(s % C) - uint32_t(low);
+                store(code_ + s, Pick::codes(n));
+            } else {
+                for (int i = 0; i < lanes; ++i) code_[s + i] = Pick::code(uint32_t(at(std::min(s + i, end)) - low));
+            }
         }
         return reach < lanes ? Way::OneVector : reach < 2 * lanes ? Way::TwoVectors : Way::PixelByPixel;
     }
@@ -215,36 +259,65 @@ private:
     template <int Times>
     void setWeights(const ResizeSpec& spec, int position) {
         const ResizeAxis& x = spec.x;
+        const bool periodic = x.period != x.destination;
+        const F* table = spec.table<F>(x.weights) + position;
+        if (Times == 1 && !periodic) {  // what follows the columns' weights in the object may be read with them
+            weights_ = table;
+            stride_ = x.tapStride;
+            return;
+        }
+        weights_ = weight_;
         stride_ = way_ == Way::PixelByPixel ? (pixels + 3) / 4 * 4 : wholeVectors(pixels * Times);
         for (int t = 0; t < taps_; ++t) {
-            F* w = weight_ + t * stride_;
-            for (int i = 0; i < pixels; ++i) {
-                const F value = spec.weight<F>(x, position + i, t);
-                for (int k = 0; k < Times; ++k) w[i * Times + k] = value;
+            F* to = weight_ + t * stride_;
+            if (sizeof(F) == 4 && !periodic) {
+                for (int s = 0; s < stride_; s += lanes)
+                    store(to + s, Pick::template pick<1>(table + t * x.tapStride + s / Times, (typename Pick::Codes)Samples<Times>::pixelCodes(s % Times)));
+            } else {
+                for (int i = 0; i < pixels; ++i)
+                    std::fill_n(to + i * Times, Times, spec.weight<F>(x, position + i, t));
+                std::fill(to + pixels * Times, to + stride_, F(0));
             }
-            std::fill(w + pixels * Times, w + stride_, F(0));
         }
     }
 
     template <int C, int Reach, class Out>
     void applyVectors(const F* row, Out out) const {
+        switch (taps_) {
+            case 2: return applyTaps<C, Reach, 2>(row, out);
+            case 4: return applyTaps<C, Reach, 4>(row, out);
+            case 6: return applyTaps<C, Reach, 6>(row, out);
+            default: return applyTaps<C, Reach, 0>(row, out);
+        }
+    }
+
+    template <int C, int Reach, int Taps, class Out>
+    void applyTaps(const F* row, Out out) const {
         const int samples = pixels * C;
-        auto sum = [&](int s) KVRI_INLINE {
-            const F* p = row + base_[s / lanes];
-            const auto codes = loadedOnce(load<typename Pick::Codes>(code_ + s));
-            const F* w = weight_ + s;
-            V acc = Pick::template pick<Reach>(p, codes) * load<V>(w);
-            for (int t = 1; t < taps_; ++t) acc = acc + Pick::template pick<Reach>(p + t * C, codes) * load<V>(w + t * stride_);
-            return acc;
+        const auto block = [&](auto vectors, int s) KVRI_INLINE {
+            constexpr int n = vectors;
+            const F *p[n], *w = weights_ + s;
+            typename Pick::Codes codes[n];
+            V acc[n];
+            unroll<n>([&](auto u) KVRI_INLINE {
+                p[u] = row + base_[s / lanes + u];
+                codes[u] = loadedOnce(load<typename Pick::Codes>(code_ + s + u * lanes));
+            });
+            const auto product = [&](auto u, int t) KVRI_INLINE {
+                return Pick::template pick<Reach>(p[u] + t * C, codes[u]) * load<V>(w + u * lanes + ptrdiff_t(t) * stride_);
+            };
+            unroll<n>([&](auto u) KVRI_INLINE { acc[u] = product(u, 0); });
+            const auto add = [&](int t) KVRI_INLINE { unroll<n>([&](auto u) KVRI_INLINE { acc[u] = acc[u] + product(u, t); }); };
+            if constexpr (Taps > 0) unroll<Taps - 1>([&](auto t) KVRI_INLINE { add(t + 1); });
+            else
+                for (int t = 1; t < taps_; ++t) add(t);
+            if constexpr (n == 4) out.four(s, acc);
+            else return acc[0];
         };
         int s = 0;
-        for (; samples - s >= 4 * lanes; s += 4 * lanes) {
-            V v[4];
-            unroll<4>([&](auto u) KVRI_INLINE { v[u] = sum(s + u * lanes); });
-            out.four(s, v);
-        }
-        for (; samples - s >= lanes; s += lanes) out.one(s, sum(s));
-        if (s < samples) out.part(s, sum(s), samples - s);
+        for (; samples - s >= 4 * lanes; s += 4 * lanes) block(std::integral_constant<int, 4>{}, s);
+        for (; samples - s >= lanes; s += lanes) out.one(s, block(std::integral_constant<int, 1>{}, s));
+        if (s < samples) out.part(s, block(std::integral_constant<int, 1>{}, s), samples - s);
     }
 
     // Single channel: as many pixels as 16 bytes hold, their taps loaded pixel by pixel and transposed.
@@ -258,7 +331,7 @@ private:
                 unroll<n>([&](auto j) KVRI_INLINE { tap[j] = load<Q>(row + base_[i + j] + t); });
                 transpose(tap);
                 for (int k = 0; k < n && t + k < taps_; ++k) {
-                    const Q product = tap[k] * load<Q>(weight_ + (t + k) * stride_ + i);
+                    const Q product = tap[k] * load<Q>(weights_ + ptrdiff_t(t + k) * stride_ + i);
                     acc = t + k == 0 ? product : acc + product;
                 }
             }
@@ -283,9 +356,9 @@ private:
         for (int i = 0; i < pixels; ++i) {
             const F* p = row + base_[i];
             Q acc[parts];
-            unroll<parts>([&](auto k) KVRI_INLINE { acc[k] = load<Q>(p + k * n) * splat<Q>(weight_[i]); });
+            unroll<parts>([&](auto k) KVRI_INLINE { acc[k] = load<Q>(p + k * n) * splat<Q>(weights_[i]); });
             for (int t = 1; t < taps_; ++t) {
-                const Q w = splat<Q>(weight_[t * stride_ + i]);
+                const Q w = splat<Q>(weights_[ptrdiff_t(t) * stride_ + i]);
                 unroll<parts>([&](auto k) KVRI_INLINE { acc[k] = acc[k] + load<Q>(p + t * C + k * n) * w; });
             }
             unroll<parts>([&](auto k) KVRI_INLINE { store(sums + i * C + k * n, acc[k]); });
