@@ -214,6 +214,13 @@ inline Vec<ElementOf<H>, 2 * sizeof(H)> joinHalves(H lower, H upper) {
     }(std::make_integer_sequence<int, 2 * sizeof(H) / sizeof(ElementOf<H>)>{});
 }
 
+// A vector of W bytes whose lane i is lane(i).
+template <int W, class F>
+KVRI_INLINE inline Bytes<W> fromLanes(F lane) {
+    if constexpr (W == 16) return lane(0);
+    else return joinHalves(fromLanes<W / 2>(lane), fromLanes<W / 2>([&](int i) KVRI_INLINE { return lane(i + W / 32); }));
+}
+
 // To 32s by the processor's rounding mode, and toward zero; what lies outside of the range becomes its minimum.
 template <class V>
 inline Vec<int32_t, sizeof(V)> toNearest(V v) {

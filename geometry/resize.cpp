@@ -52,7 +52,7 @@ private:
             const uint8_t* rows[kResizeRowGroup];
             const int n = std::min(taps - t, kResizeRowGroup);
             for (int k = 0; k < n; ++k) rows[k] = tile_.source(first + t + k, low, pixelBytes);
-            if (t == 0) sumRows<T>(rows, weight, n, samples, RowOf<F>(sums));
+            if (t == 0) sumRows<T>(rows, weight, n, samples, AlignedRowOf<F>(sums));
             else sumRows<T, 0, true>(rows, weight + t, n, samples, sums, RowOf<F>(sums));
         }
     }
@@ -67,12 +67,19 @@ private:
 
     void rowsFirst(int x) {
         const int low = tile_.columns(strip_.first), high = tile_.columns(strip_.last);
+        F* row = alignedLike(tile_.source(firstRow(0), low, pixelBytes), (low - strip_.first) * C);
         for (int y = 0; y < tile_.size.height; ++y) {
             if (y + 2 < tile_.size.height) prefetchSource(y + 2, low, high);
-            sumSource(y, low, high, row_ + ptrdiff_t(low - strip_.first) * C);
-            extend(row_, strip_.first, low, high, strip_.last);
-            strip_.template apply<C>(row_, RowOf<T>(tile_.destination(y, x, pixelBytes)));
+            sumSource(y, low, high, row + ptrdiff_t(low - strip_.first) * C);
+            extend(row, strip_.first, low, high, strip_.last);
+            strip_.template apply<C>(row, RowOf<T>(tile_.destination(y, x, pixelBytes)));
         }
+    }
+
+    // A place for a row whose sample `i` is as far from a whole vector as the source sample at p.
+    F* alignedLike(const uint8_t* p, int i) {
+        constexpr uintptr_t lanes = kReals<T>;
+        return row_ + (reinterpret_cast<uintptr_t>(p) / sizeof(T) - uintptr_t(i)) % lanes;
     }
 
     // Rows that destination row y is the first to use.

@@ -55,23 +55,15 @@ class Halver {
     template <int W, int stride, int skipped>
     static auto means(const uint8_t* p, const uint8_t* q) {
         const auto rows = [&](const uint8_t* row) {
-            Bytes<W> v;
-            if constexpr (stride == 16) v = load<Bytes<W>>(row);
-            else
-                for (int l = 0; l < W / 16; ++l) insertLane(v, l, load<Bytes<16>>(row + l * stride));
+            const auto v = [&]() KVRI_INLINE {
+                if constexpr (stride == 16) return load<Bytes<W>>(row);
+                else return fromLanes<W>([&](int l) KVRI_INLINE { return load<Bytes<16>>(row + l * stride); });
+            }();
             return addPairs(pairUp<W, skipped>(centred(v)));
         };
         auto sum = rows(p) + rows(q);
         if constexpr (std::is_same_v<T, uint16_t>) sum += 4 * 0x8000;
         return mean(sum);
-    }
-
-    template <class V>
-    static void insertLane(V& v, int l, Bytes<16> lane) {
-        typedef long long Q __attribute__((vector_size(16)));
-        Vec<long long, sizeof(V)> whole = (Vec<long long, sizeof(V)>)v;
-        whole[2 * l] = ((Q)lane)[0], whole[2 * l + 1] = ((Q)lane)[1];
-        v = (V)whole;
     }
 
     // `bytes<W>` bytes of the destination.

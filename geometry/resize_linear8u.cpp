@@ -132,12 +132,7 @@ public:
         constexpr int lanes = kVectorBytes / 16, perVector = lanes * perLane;
         const auto sums = [&](int i) KVRI_INLINE {
             const int32_t* base = base_ + i / perLane;
-            Bytes<> v;
-            if constexpr (lanes == 1) v = load<Bytes<>>(row + base[0]);
-            else if constexpr (lanes == 2) v = joinHalves(load<Bytes<16>>(row + base[0]), load<Bytes<16>>(row + base[1]));
-            else
-                v = joinHalves(joinHalves(load<Bytes<16>>(row + base[0]), load<Bytes<16>>(row + base[1])),
-                               joinHalves(load<Bytes<16>>(row + base[2]), load<Bytes<16>>(row + base[3])));
+            const auto v = fromLanes<kVectorBytes>([&](int l) KVRI_INLINE { return load<Bytes<16>>(row + base[l]); });
             const auto taps = shuffle(v, load<Bytes<>>(control_ + sumBytes * i));
             const auto weights = load<Bytes<>>(weight_ + sumBytes * i);
             if constexpr (Eighths) return (Bytes<>)multiplyPairsOfBytes(taps, weights);

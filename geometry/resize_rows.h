@@ -98,37 +98,39 @@ struct Picker {
         else return n * uint32_t(0x04040404) + uint32_t(0x03020100);
     }
 
+    // What a number's code gains with it.
+    static constexpr Code step(int n) { return code(uint32_t(n)) - code(0); }
+
+    // From a, and b behind it if Reach is 2.
     template <int Reach>
-    static V pick(const F* p, Codes codes) {
-        const V a = load<V>(p);
+    static V pick(V a, V b, Codes codes) {
 #if defined(__AVX512BW__)
         if constexpr (sizeof(F) == 4) {
             if constexpr (Reach == 1) return (V)_mm512_permutexvar_ps((__m512i)codes, (__m512)a);
-            else return (V)_mm512_permutex2var_ps((__m512)a, (__m512i)codes, (__m512)load<V>(p + lanes));
+            else return (V)_mm512_permutex2var_ps((__m512)a, (__m512i)codes, (__m512)b);
         } else {
             if constexpr (Reach == 1) return (V)_mm512_permutexvar_pd((__m512i)codes, (__m512d)a);
-            else return (V)_mm512_permutex2var_pd((__m512d)a, (__m512i)codes, (__m512d)load<V>(p + lanes));
+            else return (V)_mm512_permutex2var_pd((__m512d)a, (__m512i)codes, (__m512d)b);
         }
 #elif defined(__AVX2__)
         const __m256 low = _mm256_permutevar8x32_ps((__m256)a, (__m256i)codes);
         if constexpr (Reach == 1) return (V)low;
         else {
-            const __m256 high = _mm256_permutevar8x32_ps((__m256)load<V>(p + lanes), (__m256i)codes);
+            const __m256 high = _mm256_permutevar8x32_ps((__m256)b, (__m256i)codes);
             if constexpr (sizeof(F) == 4) return (V)_mm256_blendv_ps(low, high, (__m256)_mm256_slli_epi32((__m256i)codes, 28));
             else return (V)_mm256_blendv_pd((__m256d)low, (__m256d)high, (__m256d)_mm256_slli_epi64((__m256i)codes, 28));
         }
 #else
         if constexpr (Reach == 1) return (V)shuffle((Bytes<>)a, (Bytes<>)codes);
         else  // a control byte with its highest bit set gives 0
-            return (V)(shuffle((Bytes<>)a, (Bytes<>)codes + uint8_t(0x70)) |
-                       shuffle((Bytes<>)load<V>(p + lanes), (Bytes<>)codes - uint8_t(16)));
+            return (V)(shuffle((Bytes<>)a, (Bytes<>)codes + uint8_t(0x70)) | shuffle((Bytes<>)b, (Bytes<>)codes - uint8_t(16)));
 #endif
     }
 };
 
 constexpr int kStripSamples = 512, kStripWeightBytes = 12288, kStripRowBytes = 16384;
-// What kernels may read behind a row's last tap.
-constexpr int kRowSlackBytes = 2 * kVectorBytes;
+// What kernels may read behind a row's last tap, and where a row may begin later to be aligned.
+constexpr int kRowSlackBytes = 3 * kVectorBytes;
 
 // A strip of destination columns: for each of its pixels the first tap's place in a row that holds the strip's source
 // columns, and the weights.
@@ -137,7 +139,8 @@ class Strip {
     using Pick = Picker<F>;
     using V = Vec<F>;
     static constexpr int lanes = Pick::lanes, capacity = kStripWeightBytes / int(sizeof(F));
-    enum class Way { OneVector, TwoVectors, PixelByPixel };
+    // Taps are picked from one or two loaded vectors: all of them, or as many as these vectors have.
+    enum class Way { OneLoad, TwoLoads, TwoPerPairOfTaps, TwoPerTap, PixelByPixel };
 
     alignas(64) F weight_[capacity];
     alignas(64) typename Pick::Code code_[kStripSamples + lanes];
@@ -193,8 +196,10 @@ public:
     template <int C, class Out>
     void apply(const F* row, Out out) const {
         switch (way_) {
-            case Way::OneVector: return applyVectors<C, 1>(row, out);
-            case Way::TwoVectors: return applyVectors<C, 2>(row, out);
+            case Way::OneLoad: return applyVectors<C, 1, 0>(row, out);
+            case Way::TwoLoads: return applyVectors<C, 2, 0>(row, out);
+            case Way::TwoPerPairOfTaps: return applyVectors<C, 2, 2>(row, out);
+            case Way::TwoPerTap: return applyVectors<C, 2, 1>(row, out);
             case Way::PixelByPixel: break;
         }
         alignas(64) F sums[kStripSamples + 16 / sizeof(F)];
@@ -204,6 +209,11 @@ public:
     }
 
 private:
+    static V pickOne(const void* p, typename Pick::Codes codes) {
+        const V v = load<V>(p);
+        return Pick::template pick<1>(v, v, codes);
+    }
+
     static int wholeVectors(int samples) { return (samples + lanes - 1) / lanes * lanes; }
 
     // Sample i of a vector that starts at sample s of a row is of pixel s / C + (s % C + i) / C: these steps as codes, and the
@@ -245,14 +255,18 @@ private:
             base_[s / lanes] = low;
             if constexpr (sizeof(F) == 4) {
                 using Words = Vec<uint32_t>;
-                const auto pixel = (Words)Pick::template pick<1>(reinterpret_cast<const F*>(place + s / C), Samples<C>::pixelCodes(s % C));
+                const auto pixel = (Words)pickOne(place + s / C, Samples<C>::pixelCodes(s % C));
                 const Words n = pixel + Samples<C>::channels(s % C) - uint32_t(low);
                 store(code_ + s, Pick::codes(n));
             } else {
                 for (int i = 0; i < lanes; ++i) code_[s + i] = Pick::code(uint32_t(at(std::min(s + i, end)) - low));
             }
         }
-        return reach < lanes ? Way::OneVector : reach < 2 * lanes ? Way::TwoVectors : Way::PixelByPixel;
+        const int allTaps = reach + (taps_ - 1) * C;
+        if (allTaps < lanes) return Way::OneLoad;
+        if (allTaps < 2 * lanes) return Way::TwoLoads;
+        if (reach + C < 2 * lanes) return Way::TwoPerPairOfTaps;
+        return reach < 2 * lanes ? Way::TwoPerTap : Way::PixelByPixel;
     }
 
     // Each pixel's weights `Times` times, to the end of a vector.
@@ -272,7 +286,7 @@ private:
             F* to = weight_ + t * stride_;
             if (sizeof(F) == 4 && !periodic) {
                 for (int s = 0; s < stride_; s += lanes)
-                    store(to + s, Pick::template pick<1>(table + t * x.tapStride + s / Times, (typename Pick::Codes)Samples<Times>::pixelCodes(s % Times)));
+                    store(to + s, pickOne(table + ptrdiff_t(t) * x.tapStride + s / Times, (typename Pick::Codes)Samples<Times>::pixelCodes(s % Times)));
             } else {
                 for (int i = 0; i < pixels; ++i)
                     std::fill_n(to + i * Times, Times, spec.weight<F>(x, position + i, t));
@@ -281,43 +295,44 @@ private:
         }
     }
 
-    template <int C, int Reach, class Out>
+    // TapsPerLoad: how many taps are picked from the vectors at one place, 0 for all.
+    template <int C, int Reach, int TapsPerLoad, class Out>
     void applyVectors(const F* row, Out out) const {
         switch (taps_) {
-            case 2: return applyTaps<C, Reach, 2>(row, out);
-            case 4: return applyTaps<C, Reach, 4>(row, out);
-            case 6: return applyTaps<C, Reach, 6>(row, out);
-            default: return applyTaps<C, Reach, 0>(row, out);
+            case 2: return applyTaps<C, Reach, TapsPerLoad, 2>(row, out);
+            case 4: return applyTaps<C, Reach, TapsPerLoad, 4>(row, out);
+            case 6: return applyTaps<C, Reach, TapsPerLoad, 6>(row, out);
+            default: return applyTaps<C, Reach, TapsPerLoad, 0>(row, out);
         }
     }
 
-    template <int C, int Reach, int Taps, class Out>
+    template <int C, int Reach, int TapsPerLoad, int Taps, class Out>
     void applyTaps(const F* row, Out out) const {
-        const int samples = pixels * C;
-        const auto block = [&](auto vectors, int s) KVRI_INLINE {
-            constexpr int n = vectors;
-            const F *p[n], *w = weights_ + s;
-            typename Pick::Codes codes[n];
-            V acc[n];
-            unroll<n>([&](auto u) KVRI_INLINE {
-                p[u] = row + base_[s / lanes + u];
-                codes[u] = loadedOnce(load<typename Pick::Codes>(code_ + s + u * lanes));
-            });
-            const auto product = [&](auto u, int t) KVRI_INLINE {
-                return Pick::template pick<Reach>(p[u] + t * C, codes[u]) * load<V>(w + u * lanes + ptrdiff_t(t) * stride_);
+        const int samples = pixels * C, taps = Taps > 0 ? Taps : taps_, perLoad = TapsPerLoad > 0 ? TapsPerLoad : taps;
+        const auto sum = [&](int s) KVRI_INLINE {
+            const F *p = row + base_[s / lanes], *w = weights_ + s;
+            const auto codes = loadedOnce(load<typename Pick::Codes>(code_ + s));
+            V acc{};
+            const auto pickFrom = [&](int first) KVRI_INLINE {
+                const V a = loadedOnce(load<V>(p + first * C)), b = Reach == 1 ? a : loadedOnce(load<V>(p + first * C + lanes));
+                for (int t = first; t < std::min(first + perLoad, taps); ++t) {
+                    const V product = Pick::template pick<Reach>(a, b, codes + Pick::step((t - first) * C)) * load<V>(w + ptrdiff_t(t) * stride_);
+                    acc = t == 0 ? product : acc + product;
+                }
             };
-            unroll<n>([&](auto u) KVRI_INLINE { acc[u] = product(u, 0); });
-            const auto add = [&](int t) KVRI_INLINE { unroll<n>([&](auto u) KVRI_INLINE { acc[u] = acc[u] + product(u, t); }); };
-            if constexpr (Taps > 0) unroll<Taps - 1>([&](auto t) KVRI_INLINE { add(t + 1); });
+            if constexpr (TapsPerLoad == 0) pickFrom(0);
             else
-                for (int t = 1; t < taps_; ++t) add(t);
-            if constexpr (n == 4) out.four(s, acc);
-            else return acc[0];
+                for (int t = 0; t < taps; t += TapsPerLoad) pickFrom(t);
+            return acc;
         };
         int s = 0;
-        for (; samples - s >= 4 * lanes; s += 4 * lanes) block(std::integral_constant<int, 4>{}, s);
-        for (; samples - s >= lanes; s += lanes) out.one(s, block(std::integral_constant<int, 1>{}, s));
-        if (s < samples) out.part(s, block(std::integral_constant<int, 1>{}, s), samples - s);
+        for (; samples - s >= 4 * lanes; s += 4 * lanes) {
+            V v[4];
+            unroll<4>([&](auto u) KVRI_INLINE { v[u] = sum(s + u * lanes); });
+            out.four(s, v);
+        }
+        for (; samples - s >= lanes; s += lanes) out.one(s, sum(s));
+        if (s < samples) out.part(s, sum(s), samples - s);
     }
 
     // Single channel: as many pixels as 16 bytes hold, their taps loaded pixel by pixel and transposed.

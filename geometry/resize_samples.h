@@ -140,11 +140,17 @@ protected:
     uint8_t* at(ptrdiff_t i) const { return p + i * ptrdiff_t(sizeof(T)); }
 };
 
-// The same past the caches; p is a multiple of the sample's size.
+// The same by aligned vectors; p is a multiple of the sample's size.
 template <class T>
-struct StreamedRowOf : RowOf<T> {
+struct AlignedRowOf : RowOf<T> {
     using RowOf<T>::RowOf;
     ptrdiff_t head() const { return (-reinterpret_cast<intptr_t>(this->p) & (kVectorBytes - 1)) / ptrdiff_t(sizeof(T)); }
+};
+
+// The same past the caches.
+template <class T>
+struct StreamedRowOf : AlignedRowOf<T> {
+    using AlignedRowOf<T>::AlignedRowOf;
     void four(ptrdiff_t i, const Reals<T> (&v)[4]) const { putFourReals<T>(this->at(i), v, [](uint8_t* p, auto v) KVRI_INLINE { stream(p, v); }); }
 };
 
