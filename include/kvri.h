@@ -11,5 +11,6 @@
 #include "kvri/core.h"
 #include "kvri/datamove.h"
 #include "kvri/pointops.h"
+#include "kvri/geometry.h"
 
 #endif

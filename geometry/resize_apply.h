@@ -1,0 +1,99 @@
+// geometry/resize_apply.h: what the apply functions of Resize share: their checks, and a tile's source and destination.
+#pragma once
+
+#include <climits>
+
+#include "core/check.h"
+#include "core/layout.h"
+#include "core/simd.h"
+#include "geometry/resize_spec.h"
+
+namespace kvri {
+
+// The objects that an apply function accepts.
+struct Accepts {
+    uint32_t id;
+    KvriInterpolationType method;  // 0: any
+    bool antialiasing;
+    ResizeWeights kind;
+
+    KvrStatus operator()(const ResizeSpec& spec) const {
+        const bool same = (method == 0 || spec.method == method) && (spec.antialiasing != 0) == antialiasing && spec.kind == kind;
+        return same ? kvrStatusOk : kvrStatusNotSupported;
+    }
+};
+
+inline KvrStatus borderSupported(KvriBorderType border) {
+    if ((border & ~0xF7) != 0) return kvrStatusBorderNotSupported;
+    const int rule = border & 7;
+    return rule == kvrBorderRepl || rule == kvrBorderInMem ? kvrStatusOk : kvrStatusNotSupported;
+}
+
+// The source pixels of one axis that may be read: positions low to high. Pixels beyond repeat these.
+struct Readable {
+    int low, high;
+
+    Readable(const ResizeAxis& a, KvriBorderType border, int lowFlag, int highFlag, int beyond) : low(0), high(a.source - 1) {
+        const bool all = (border & 7) == kvrBorderInMem;
+        if (all || (border & lowFlag)) low -= beyond;
+        if (all || (border & highFlag)) high += beyond;
+    }
+    int operator()(int position) const { return std::clamp(position, low, high); }
+};
+
+// A strip's rows lie too far apart for the processor to foresee them.
+inline void prefetch(const uint8_t* p, ptrdiff_t bytes) {
+    for (ptrdiff_t i = 0; i < bytes; i += 64) __builtin_prefetch(p + i);
+}
+
+struct ResizeTile {
+    const ResizeSpec& spec;
+    const uint8_t* src;  // where source pixel `origin` lies
+    ptrdiff_t srcStep;
+    uint8_t* dst;
+    ptrdiff_t dstStep;
+    KvriPoint offset, origin;
+    KvriSize size;
+    Readable columns, rows;
+    uint8_t* buffer;
+    bool streams;  // the destination is written past the caches
+
+    // Source row `row`, or what stands for it, from column `column` on.
+    const uint8_t* source(int row, int column, ptrdiff_t pixelBytes) const {
+        return src + (rows(row) - origin.y) * srcStep + (ptrdiff_t(column) - origin.x) * pixelBytes;
+    }
+    uint8_t* destination(int y, int x, ptrdiff_t pixelBytes) const { return dst + y * dstStep + x * pixelBytes; }
+    // For pixels x to x + n - 1 to be written some rows later.
+    void prefetchDestination(int y, int x, int n, ptrdiff_t pixelBytes) const {
+        if (y < size.height && !streams) prefetch(destination(y, x, pixelBytes), n * pixelBytes);
+    }
+};
+
+// The body of an apply function: checks, then run(tile).
+template <int C, class T, class Run>
+KvrStatus applyResize(const Accepts& accepts, Run run, const T* pSrc, int srcStep, T* pDst, int dstStep, KvriPoint dstOffset,
+                      KvriSize dstSize, KvriBorderType border, const KvriResizeSpec* pSpec, Kvr8u* pBuffer) {
+    if (KvrStatus e = firstError(nonNull(pSrc, pDst, pSpec, pBuffer), lengthsNotZero(dstSize))) return e;
+    constexpr ptrdiff_t pixelBytes = C * sizeof(T);
+    const ResizeSpec& spec = *alignedSpec(pSpec);
+    if (KvrStatus e = carriesId(pSpec, accepts.id)) return e;
+    if (KvrStatus e = firstError(hasPixels(dstSize), insideDestination(spec, dstOffset), accepts(spec), borderSupported(border))) return e;
+    const KvriSize size = clipped(spec, dstOffset, dstSize);
+    const bool streams = exceedsCache(size, pixelBytes);
+    run(ResizeTile{spec,
+                   reinterpret_cast<const uint8_t*>(pSrc),
+                   srcStep,
+                   reinterpret_cast<uint8_t*>(pDst),
+                   dstStep,
+                   dstOffset,
+                   {spec.origin(spec.x, dstOffset.x), spec.origin(spec.y, dstOffset.y)},
+                   size,
+                   Readable(spec.x, border, kvrBorderInMemLeft, kvrBorderInMemRight, spec.border.left),
+                   Readable(spec.y, border, kvrBorderInMemTop, kvrBorderInMemBottom, spec.border.top),
+                   pBuffer,
+                   streams});
+    if (streams) fenceStreams();
+    return withinDestination(spec, dstSize);
+}
+
+}  // namespace kvri
