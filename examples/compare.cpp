@@ -12,25 +12,19 @@ namespace {
 constexpr int kRuns = 3;         // the best of which counts
 constexpr int kNarrowest = 160;  // cell, for its caption
 
-template <class Picture>
-Rows rowsOf(Picture& image) {
-    return {reinterpret_cast<unsigned char*>(image.data()), image.step(), 0};
-}
-
 struct Result {
     AnyImage image;
     double seconds;
 };
 
 template <class Picture>
-Result resized(Picture& picture, const Method& method, CubicFamily cubic, KvriSize size) {
+Result resized(const Picture& picture, const Method& method, CubicFamily cubic, KvriSize size) {
     const Resizer resizer(method, cubic, PixelKind{Picture::kChannels, 8}, picture.size(), size);
     Picture result(size);
-    Bytes buffer(resizer.bufferBytes(size));
     double best = std::numeric_limits<double>::infinity();
     for (int i = 0; i < kRuns; ++i) {
         const auto start = std::chrono::steady_clock::now();
-        resizer.apply(rowsOf(picture), rowsOf(result), {0, 0, size.width, size.height}, buffer.data());
+        resizeWhole(resizer, picture, result);
         best = std::min(best, std::chrono::duration<double>(std::chrono::steady_clock::now() - start).count());
     }
     return {std::move(result), best};
@@ -38,16 +32,18 @@ Result resized(Picture& picture, const Method& method, CubicFamily cubic, KvriSi
 
 }  // namespace
 
-Comparison compareMethods(AnyImage picture, const std::string& title, KvriSize size, CubicFamily cubic,
+Comparison compareMethods(const AnyImage& picture, const std::string& title, KvriSize size, CubicFamily cubic,
                           const std::function<void(double done)>& progress) {
     const int count = int(methods().size());
     ContactSheet sheet(title, count, {count / 2, {std::max(size.width, kNarrowest), size.height}});
     Table table({{"method"}, {"ms", Column::Right}, {"Mpixel/s", Column::Right}});
+    const KvriSize from = sizeOf(picture);
+    const double pixels = std::max(double(from.width) * from.height, double(size.width) * size.height);
     int done = 0;
     for (const Method& method : methods()) try {
-        const auto [image, seconds] = std::visit([&](auto& p) { return resized(p, method, cubic, size); }, picture);
+        const auto [image, seconds] = std::visit([&](const auto& p) { return resized(p, method, cubic, size); }, picture);
         sheet.add(image, method.name, method.description);
-        table.add({method.name, decimal(seconds * 1e3, 2), decimal(double(size.width) * size.height / seconds / 1e6, 0)});
+        table.add({method.name, decimal(seconds * 1e3, 2), decimal(pixels / seconds / 1e6, 0)});
         progress(double(++done) / count);
     } catch (const MethodError& e) {
         sheet.addMissing(method.name, e.what());

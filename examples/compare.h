@@ -16,7 +16,7 @@ struct Comparison {
 };
 
 // Resizes the picture by every method that the sizes allow, on one thread.
-Comparison compareMethods(AnyImage picture, const std::string& title, KvriSize size, CubicFamily cubic,
+Comparison compareMethods(const AnyImage& picture, const std::string& title, KvriSize size, CubicFamily cubic,
                           const std::function<void(double done)>& progress);
 
 }  // namespace demo

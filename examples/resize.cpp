@@ -55,11 +55,11 @@ CLI::Option* addSize(CLI::App* app, const std::string& name, Size& size, const s
 }
 
 void declare(CLI::App& app, Options& options) {
-    app.add_option("files", options.files, "PNG or JPEG: one or more to read, then the file, or an existing folder, to write")
-        ->type_name("IN... OUT")
+    app.add_option("IN... OUT", options.files, "PNG or JPEG: one or more to read, then the file, or an existing folder, to write")
+        ->option_text(" ")
         ->required();
 
-    auto* sizes = app.add_option_group("Size", "one of these");
+    auto* sizes = app.add_option_group("Size of the result");
     addSize(sizes, "--size", options.size, "width and height");
     addSize(sizes, "--fit", options.fit, "the largest size within these that keeps the proportions");
     sizes->add_option("--scale", options.scale, "factor on width and height")->type_name("F")->check(CLI::PositiveNumber);
@@ -69,6 +69,7 @@ void declare(CLI::App& app, Options& options) {
     for (const Method& method : methods()) names.push_back(method.name);
     app.add_option("--method", options.method, "how; aa: antialiased where the picture shrinks")
         ->check(CLI::IsMember(names))
+        ->type_name("NAME")
         ->capture_default_str();
     app.add_option("--b", options.cubic.b, "first parameter of the cubic methods: 1 for a B-spline")->capture_default_str();
     app.add_option("--c", options.cubic.c, "second one")->capture_default_str();
@@ -79,7 +80,8 @@ void declare(CLI::App& app, Options& options) {
     app.add_flag("--progress", options.progress, "report progress even where stderr is no terminal");
     app.set_version_flag("--version", libraryVersion());
     app.footer("The result has the samples (8 or 16 bits) and channels (grey, RGB, RGBA) of the input; JPEG has 8 bits and no\n"
-               "alpha. Colour profile and EXIF data are kept. Mpixel/s counts pixels of the result, without reading and writing.\n"
+               "alpha. Colour profile and EXIF data are kept. Mpixel/s counts the pixels of the larger\n"
+               "picture, IN or OUT, and not the time for files.\n"
                "Exit codes: 0 success, 1 usage or sizes that the method does not allow, 2 a picture cannot be read,\n"
                "3 a picture cannot be written, 4 a failure in the library or the program.");
 }
@@ -124,14 +126,12 @@ KvriSize sizeFor(KvriSize source, const Options& options) {
     return scaled(source, std::min(double(options.fit->width) / source.width, double(options.fit->height) / source.height));
 }
 
-const Method& methodOf(const Options& options) {
-    return *std::find_if(methods().begin(), methods().end(), [&](const Method& m) { return options.method == m.name; });
-}
-
 std::unique_ptr<RowReader> open(const Job& job, const Options& options) {
     if (options.zonePlate) return std::make_unique<ZonePlate>(*options.zonePlate);
     return openPicture(job.from, options.compare ? Depth::Eight : Depth::AsStored);
 }
+
+double pixels(KvriSize size) { return double(size.width) * size.height; }
 
 double secondsSince(std::chrono::steady_clock::time_point start) {
     return std::chrono::duration<double>(std::chrono::steady_clock::now() - start).count();
@@ -142,7 +142,7 @@ void resize(const Job& job, const Options& options, Progress& progress) {
     const auto reader = open(job, options);
     const PictureInfo& from = reader->info();
     const KvriSize size = sizeFor(from.size, options);
-    const Resizer resizer(methodOf(options), options.cubic, from.kind, from.size, size);
+    const Resizer resizer(methodOf(options.method), options.cubic, from.kind, from.size, size);
     const auto writer = createPicture(job.to, {size, from.kind, from.profile});
     const double seconds = resizeInStrips(*reader, *writer, resizer, options.tiling, [&](double done) { progress.part(done); });
     writer->finish();
@@ -151,7 +151,7 @@ void resize(const Job& job, const Options& options, Progress& progress) {
     std::cout << job.from.string() << " (" << toString(from.size) << ", " << toString(from.kind) << ") -> " << job.to.string() << " ("
               << toString(size) << "): " << options.method << ", " << options.tiling.threads
               << (options.tiling.threads == 1 ? " thread, " : " threads, ") << decimal(seconds * 1e3, 1) << " ms, "
-              << decimal(double(size.width) * size.height / seconds / 1e6, 0) << " Mpixel/s; with files "
+              << decimal(std::max(pixels(from.size), pixels(size)) / seconds / 1e6, 0) << " Mpixel/s; with files "
               << decimal(secondsSince(start), 2) << " s\n";
 }
 

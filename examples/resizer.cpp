@@ -4,7 +4,6 @@
 #include <utility>
 
 #include "call.h"
-#include "image.h"
 
 namespace demo {
 namespace {
@@ -72,6 +71,10 @@ constexpr Resizer::Functions Resizer::Functions::of16u = KVRI_RESIZE(16u);
 
 std::span<const Method> methods() { return kMethods; }
 
+const Method& methodOf(const std::string& name) {
+    return *std::ranges::find_if(kMethods, [&](const Method& m) { return name == m.name; });
+}
+
 Resizer::Resizer(const Method& method, CubicFamily cubic, PixelKind kind, KvriSize source, KvriSize destination)
     : functions_(kind.bits == 8 ? Functions::of8u : Functions::of16u),
       method_(method),
@@ -132,7 +135,7 @@ size_t Resizer::bufferBytes(KvriSize tile) const {
     return size_t(bytes);
 }
 
-void Resizer::apply(Rows source, Rows destination, KvriRect tile, unsigned char* buffer) const {
+void Resizer::apply(ConstRows source, Rows destination, KvriRect tile, unsigned char* buffer) const {
     const auto& [nearest, linear, cubic, lanczos, super, antialiasing] = functions_.apply[std::max(kind_.channels - 2, 0)];
     const auto& function = method_.antialiasing                           ? antialiasing
                            : method_.interpolation == kvrInterpNearest ? nearest

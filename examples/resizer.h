@@ -5,6 +5,7 @@
 #include <stdexcept>
 #include <string>
 
+#include "image.h"
 #include "rows.h"
 
 namespace demo {
@@ -19,6 +20,7 @@ struct Method {
 };
 
 std::span<const Method> methods();
+const Method& methodOf(const std::string& name);  // one of them
 
 // The two parameters of the cubic methods.
 struct CubicFamily {
@@ -36,11 +38,15 @@ struct RowRange {
 };
 
 // Rows of a picture from row `first` on, anywhere in memory.
-struct Rows {
-    unsigned char* data;
+template <class Byte>
+struct RowsIn {
+    Byte* data;
     int step, first;
-    unsigned char* operator[](int y) const { return data + ptrdiff_t(y - first) * step; }
+    Byte* operator[](int y) const { return data + ptrdiff_t(y - first) * step; }
+    operator RowsIn<const Byte>() const { return {data, step, first}; }
 };
+using Rows = RowsIn<unsigned char>;
+using ConstRows = RowsIn<const unsigned char>;
 
 class Resizer {
     struct Functions;
@@ -70,7 +76,15 @@ public:
     size_t bufferBytes(KvriSize tile) const;
 
     // Makes a tile of the destination. Any number of threads may do so at once, each with a buffer of its own.
-    void apply(Rows source, Rows destination, KvriRect tile, unsigned char* buffer) const;
+    void apply(ConstRows source, Rows destination, KvriRect tile, unsigned char* buffer) const;
 };
+
+// A picture of 8-bit samples in one piece.
+template <class Picture>
+void resizeWhole(const Resizer& resizer, const Picture& from, Picture& to) {
+    Bytes buffer(resizer.bufferBytes(to.size()));
+    resizer.apply(ConstRows{from.data(), from.step(), 0}, Rows{to.data(), to.step(), 0}, {0, 0, to.size().width, to.size().height},
+                  buffer.data());
+}
 
 }  // namespace demo
