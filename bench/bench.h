@@ -21,6 +21,7 @@ struct Job {
     Traffic traffic;
     std::vector<void*> images;       // of kvrMalloc
     std::function<void(int)> bare{};  // what a caller would write instead, where that is a loop over rows
+    double pixels = 0;                // that the call writes, where these are not the geometry's
 };
 
 struct Geometry {

@@ -117,7 +117,7 @@ void runRow(benchmark::State& state, const std::string& name, const Geometry& g,
         state.SetIterationTime(r.call);
     }
     for (void* p : job.images) kvrFree(p);
-    const double pixels = double(g.size.width) * g.size.height, ratio = r.call / r.limit;
+    const double pixels = job.pixels > 0 ? job.pixels : double(g.size.width) * g.size.height, ratio = r.call / r.limit;
     state.counters["ns/px"] = r.call * 1e9 / pixels;
     state.counters["GB/s"] = double(job.traffic.read + job.traffic.written) / r.call * 1e-9;
     state.counters["limit ns/px"] = r.limit * 1e9 / pixels;

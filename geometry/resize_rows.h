@@ -162,6 +162,7 @@ public:
         int32_t place[kStripSamples];
         for (int i = 0; i < count; ++i) place[i] = (sparse ? i * taps_ : spec.firstTap(x, position + i) - first) * C;
         way_ = makeCodes<C>(place);
+        if (taps_ * wholeVectors(pixels * C) > weights) way_ = Way::PixelByPixel;
         if (way_ == Way::PixelByPixel) {
             std::copy(place, place + count, base_);
             for (int i = count; i % 4 != 0; ++i) base_[i] = place[count - 1];
@@ -186,6 +187,8 @@ public:
     }
 
 private:
+    static int wholeVectors(int samples) { return (samples + lanes - 1) / lanes * lanes; }
+
     // Where each sample's first tap lies, from the lowest of its vector's samples on.
     template <int C>
     Way makeCodes(const int32_t* place) {
@@ -212,8 +215,7 @@ private:
     template <int Times>
     void setWeights(const ResizeSpec& spec, int position) {
         const ResizeAxis& x = spec.x;
-        stride_ = (pixels * Times + lanes - 1) / lanes * lanes;
-        if (way_ == Way::PixelByPixel) stride_ = (pixels + 3) / 4 * 4;
+        stride_ = way_ == Way::PixelByPixel ? (pixels + 3) / 4 * 4 : wholeVectors(pixels * Times);
         for (int t = 0; t < taps_; ++t) {
             F* w = weight_ + t * stride_;
             for (int i = 0; i < pixels; ++i) {

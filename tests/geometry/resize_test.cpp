@@ -1,0 +1,187 @@
+// tests/geometry/resize_test.cpp: pixels of Resize.
+#include <thread>
+
+#include "tests/geometry/resize_scene.h"
+
+namespace {
+
+using namespace test;
+using namespace test::resize;
+
+constexpr KvriBorderType kBorders[] = {kvrBorderRepl, kvrBorderRepl, kvrBorderInMem, kvrBorderRepl | 0xF0,
+                                       kvrBorderRepl | kvrBorderInMemLeft | kvrBorderInMemBottom,
+                                       kvrBorderRepl | kvrBorderInMemTop | kvrBorderInMemRight};
+
+Scene randomScene(const Case& c, Random& random, int width, int height) {
+    const Choice o = randomChoice(random);
+    const auto x = randomLengths(c, o, random, width), y = randomLengths(c, o, random, height);
+    return Scene(c, o, {x.first, y.first}, {x.second, y.second}, kBorders[random.in(0, 5)], random);
+}
+
+std::string describe(const Scene& s) {
+    return s.c.name + " kernel " + std::to_string(s.c.kernel(s.o)) + " lobes " + std::to_string(s.o.lobes) + " b " + std::to_string(s.o.b) +
+           " from " + std::to_string(s.src.width) + "x" + std::to_string(s.src.height) + " to " + std::to_string(s.dst.width) + "x" +
+           std::to_string(s.dst.height) + " border " + std::to_string(s.border);
+}
+
+std::vector<uint8_t> expected(const Scene& s, const TestImage& like, bool rowsFirst) {
+    auto want = like.memory();
+    const contract::Plane plane = s.plane();
+    const contract::Axis x(s.c, s.o, s.src.width, s.dst.width), y(s.c, s.o, s.src.height, s.dst.height);
+    for (int j = 0; j < s.dst.height; ++j)
+        for (int i = 0; i < s.dst.width; ++i)
+            contract::pixel(plane, x, y, i, j, rowsFirst, want.data() + like.position(j, ptrdiff_t(i) * s.c.pixelBytes()));
+    return want;
+}
+
+std::string firstDifference(const Scene& s, const TestImage& have, const std::vector<uint8_t>& want) {
+    const auto memory = have.memory();
+    for (int y = 0; y < s.dst.height; ++y)
+        for (int x = 0; x < s.dst.width * s.c.pixelBytes(); ++x)
+            if (memory[have.position(y, x)] != want[have.position(y, x)])
+                return "byte " + std::to_string(x) + " of row " + std::to_string(y) + ": " + std::to_string(memory[have.position(y, x)]) +
+                       ", not " + std::to_string(want[have.position(y, x)]);
+    return "outside of the destination";
+}
+
+// The sums are those of one of the two orders, in every bit.
+TEST(Resize, MatchesContract) {
+    for (const Case& c : cases())
+        for (int seed = 0; seed < 24; ++seed) {
+            Random random(uint64_t(seed) * 7919 + 1);
+            const Scene s = randomScene(c, random, seed % 8 == 0 ? 300 : 60, 12);
+            const TestImage have(c.pixelBytes() * s.dst.width, s.dst.height, random);
+            const auto first = expected(s, have, true), second = expected(s, have, false);
+            ASSERT_EQ(s.run({0, 0}, s.dst, have, random), kvrStatusOk) << describe(s);
+            const auto memory = have.memory();
+            ASSERT_TRUE(memory == first || memory == second) << describe(s) << ", seed " << seed << "\n" << firstDifference(s, have, first)
+                                                             << "\n" << firstDifference(s, have, second);
+        }
+}
+
+TEST(Resize, TilesGiveThePixelsOfTheWhole) {
+    for (const Case& c : cases())
+        for (int seed = 0; seed < 15; ++seed) {
+            Random random(uint64_t(seed) + 1000);
+            const Scene s = randomScene(c, random, 300, 60);
+            const TestImage whole(c.pixelBytes() * s.dst.width, s.dst.height, random.in(1, 9) + c.pixelBytes() * s.dst.width, Edge::End);
+            const TestImage tiled(whole.rowBytes, whole.rows, whole.step, Edge::Begin);
+            std::memset(whole.roi, 0, whole.memory().size());
+            std::memset(tiled.roi, 0, tiled.memory().size());
+            ASSERT_EQ(s.run({0, 0}, s.dst, whole, random), kvrStatusOk);
+            for (int y = 0, h; y < s.dst.height; y += h) {
+                h = random.in(1, s.dst.height);
+                for (int x = 0, w; x < s.dst.width; x += w) {
+                    w = random.in(1, s.dst.width);
+                    ASSERT_EQ(s.run({x, y}, {w, h}, tiled, random), kvrStatusOk) << describe(s);
+                }
+            }
+            ASSERT_TRUE(whole.memory() == tiled.memory()) << describe(s) << ", seed " << seed << "\n" << firstDifference(s, tiled, whole.memory());
+        }
+}
+
+// Against sums in double precision: integers within 1, single precision within 4 units in the last place of the range.
+TEST(Resize, IsCloseToTheExactSum) {
+    for (const Case& c : cases()) {
+        if (c.type == Type::f64 || (c.method == kvrInterpLinear && c.type == Type::u8)) continue;
+        for (int seed = 0; seed < 6; ++seed) {
+            Random random(uint64_t(seed) + 50);
+            const Scene s = randomScene(c, random, 100, 20);
+            const TestImage have(c.pixelBytes() * s.dst.width, s.dst.height, random);
+            ASSERT_EQ(s.run({0, 0}, s.dst, have, random), kvrStatusOk);
+            const contract::Plane result{c, s.dst, [&](int x, int y) { return have.row(y) + x * c.pixelBytes(); }, kvrBorderRepl, {}};
+            const contract::Plane plane = s.plane();
+            const double tolerance = c.type == Type::f32 ? 4 * 200 * 0x1p-24 * 2 : 1;
+            for (int j = 0; j < s.dst.height; ++j)
+                for (int i = 0; i < s.dst.width; ++i) {
+                    const auto x = contract::tapsAt(c, s.o, s.src.width, s.dst.width, i), y = contract::tapsAt(c, s.o, s.src.height, s.dst.height, j);
+                    for (int k = 0; k < c.channels; ++k) {
+                        double want = contract::weightedSum<double>(plane, x, y, k, true);
+                        if (c.type == Type::u8) want = std::clamp(want, 0., 255.);
+                        else if (c.type == Type::u16) want = std::clamp(want, 0., 65535.);
+                        else if (c.type == Type::s16) want = std::clamp(want, -32768., 32767.);
+                        ASSERT_NEAR(result.at(i, j, k), want, tolerance) << describe(s);
+                    }
+                }
+        }
+    }
+}
+
+TEST(Resize, KeepsAConstantImage) {
+    for (const Case& c : cases())
+        for (const KvriSize dst : {KvriSize{7, 5}, KvriSize{64, 48}, KvriSize{90, 61}, KvriSize{13, 77}}) {
+            if (c.method == kvrInterpSuper && (dst.width > 64 || dst.height > 48)) continue;
+            Random random(3);
+            const Choice o = randomChoice(random);
+            const Scene s(c, o, {64, 48}, dst, kvrBorderRepl, random);
+            const double value = c.type == Type::u8 ? 255 : c.type == Type::u16 ? 65535 : c.type == Type::s16 ? -32768 : 0.7f;
+            for (int y = 0; y < s.image.rows; ++y)
+                for (int x = 0; x < s.image.rowBytes; x += sampleBytes(c.type)) contract::store(c.type, value, s.image.row(y) + x);
+            const TestImage have(c.pixelBytes() * dst.width, dst.height, random);
+            ASSERT_EQ(s.run({0, 0}, dst, have, random), kvrStatusOk);
+            const contract::Plane result{c, dst, [&](int x, int y) { return have.row(y) + x * c.pixelBytes(); }, kvrBorderRepl, {}};
+            for (int y = 0; y < dst.height; ++y)
+                for (int x = 0; x < dst.width; ++x)
+                    for (int k = 0; k < c.channels; ++k) ASSERT_NEAR(result.at(x, y, k), value, c.type >= Type::f32 ? 4 * 0x1p-24 : 0) << describe(s);
+        }
+}
+
+// Infinities next to a pixel that is copied must not touch it.
+TEST(Resize, CopiesAtEqualSize) {
+    for (const Case& c : cases()) {
+        if (c.antialiasing() || (c.kernel({}) == kvrInterpLanczos && c.type != Type::u8)) continue;  // nearly 1 is not 1
+        Random random(9);
+        const Scene s(c, {}, {37, 9}, {37, 9}, kvrBorderInMem, random);
+        if (c.type == Type::f32)
+            for (int i = 0; i < 20; ++i) contract::store(c.type, INFINITY, s.pixel(random.in(0, 36), random.in(0, 8)));
+        const TestImage have(c.pixelBytes() * 37, 9, random);
+        ASSERT_EQ(s.run({0, 0}, s.dst, have, random), kvrStatusOk);
+        for (int y = 0; y < 9; ++y) ASSERT_EQ(std::memcmp(have.row(y), s.pixel(0, y), size_t(have.rowBytes)), 0) << describe(s);
+    }
+}
+
+TEST(Resize, BeyondWhatAStripHolds) {
+    for (const Case& c : cases()) {
+        if (c.channels == 3) continue;
+        for (const auto& [src, dst] : {std::pair<KvriSize, KvriSize>{{5000, 7}, {2, 3}}, {{9, 1300}, {21, 2}}, {{1400, 60}, {1, 1}}, {{6, 6}, {2000, 7}}}) {
+            if (c.method == kvrInterpSuper && (dst.width > src.width || dst.height > src.height)) continue;
+            Random random(5);
+            const Choice o = randomChoice(random);
+            const Scene s(c, o, src, dst, kvrBorderRepl, random);
+            const TestImage have(c.pixelBytes() * dst.width, dst.height, random);
+            const auto first = expected(s, have, true), second = expected(s, have, false);
+            ASSERT_EQ(s.run({0, 0}, dst, have, random), kvrStatusOk);
+            const auto memory = have.memory();
+            ASSERT_TRUE(memory == first || memory == second) << describe(s) << "\n" << firstDifference(s, have, first);
+        }
+    }
+}
+
+TEST(Resize, ObjectsMayMoveAndServeThreads) {
+    for (const Case& c : cases()) {
+        if (c.channels != 1) continue;
+        Random random(11);
+        Scene s(c, randomChoice(random), {200, 150}, {150, 100}, kvrBorderRepl, random);
+        const TestImage whole(c.pixelBytes() * 150, 100, random), parts(whole.rowBytes, 100, whole.step, Edge::Begin);
+        for (const TestImage* image : {&whole, &parts}) std::memset(image->roi - (image->step < 0 ? ptrdiff_t(-image->step) * 99 : 0), 0, image->memory().size());
+        ASSERT_EQ(s.run({0, 0}, s.dst, whole, random), kvrStatusOk);
+
+        std::vector<uint8_t> moved(size_t(s.object.bytes) + 128);
+        const auto shift = (reinterpret_cast<uintptr_t>(s.object.block.p) - reinterpret_cast<uintptr_t>(moved.data())) & 63;
+        std::memcpy(moved.data() + shift, s.object.block.p, size_t(s.object.bytes));
+        const auto* spec = reinterpret_cast<const KvriResizeSpec*>(moved.data() + shift);
+        const std::vector<uint8_t> before = moved;
+        auto half = [&](int y) {
+            std::vector<uint8_t> buffer(size_t(s.object.bufferBytes({150, 50})));
+            const KvriPoint at = s.object.origin({0, y});
+            c.apply({s.pixel(at.x, at.y), s.image.step, parts.row(y), parts.step, {0, y}, {150, 50}}, spec, buffer.data());
+        };
+        std::thread other(half, 50);
+        half(0);
+        other.join();
+        ASSERT_TRUE(whole.memory() == parts.memory()) << describe(s);
+        ASSERT_EQ(moved, before);
+    }
+}
+
+}  // namespace
