@@ -25,7 +25,7 @@ enum ExitCode { kSuccess = 0, kUsage = 1, kInput = 2, kOutput = 3, kFailure = 4 
 struct Options {
     std::vector<fs::path> files;
     std::optional<KvriSize> size, fit, zonePlate;
-    double scale = 1;
+    std::optional<double> scale;
     std::string method = "aa-lanczos3";
     CubicFamily cubic;
     Tiling tiling{std::max(1, int(std::thread::hardware_concurrency()))};
@@ -49,9 +49,9 @@ KvriSize parseSize(const std::string& option, const std::string& text) {
 }
 
 template <class Size>
-CLI::Option* addSize(CLI::App* app, const std::string& name, Size& size, const std::string& description) {
+CLI::Option* addSize(CLI::App& app, const std::string& name, Size& size, const std::string& description) {
     const auto parse = [name, &size](const std::string& text) { size = parseSize(name, text); };
-    return app->add_option_function<std::string>(name, parse, description)->type_name("WxH");
+    return app.add_option_function<std::string>(name, parse, description)->type_name("WxH");
 }
 
 void declare(CLI::App& app, Options& options) {
@@ -59,29 +59,27 @@ void declare(CLI::App& app, Options& options) {
         ->option_text(" ")
         ->required();
 
-    auto* sizes = app.add_option_group("Size of the result");
-    addSize(sizes, "--size", options.size, "width and height");
-    addSize(sizes, "--fit", options.fit, "the largest size within these that keeps the proportions");
-    sizes->add_option("--scale", options.scale, "factor on width and height")->type_name("F")->check(CLI::PositiveNumber);
-    sizes->require_option(1);
+    const char* const kSizes = "Size of the result, one of";
+    addSize(app, "--size", options.size, "width and height")->group(kSizes);
+    addSize(app, "--fit", options.fit, "the largest size within these that keeps the proportions")->group(kSizes);
+    app.add_option("--scale", options.scale, "factor on width and height")->type_name("F")->check(CLI::PositiveNumber)->group(kSizes);
 
     std::vector<std::string> names;
     for (const Method& method : methods()) names.push_back(method.name);
-    app.add_option("--method", options.method, "how; aa: antialiased where the picture shrinks")
+    app.add_option("--method", options.method, CLI::detail::join(names, ", ") + "; aa: antialiased where the picture shrinks")
         ->check(CLI::IsMember(names))
-        ->type_name("NAME")
-        ->capture_default_str();
-    app.add_option("--b", options.cubic.b, "first parameter of the cubic methods: 1 for a B-spline")->capture_default_str();
-    app.add_option("--c", options.cubic.c, "second one")->capture_default_str();
+        ->option_text("NAME=" + options.method);
+    app.add_option("--b", options.cubic.b, "B of the cubic methods; B = 1, C = 0 is the B-spline")->capture_default_str();
+    app.add_option("--c", options.cubic.c, "C of the cubic methods")->capture_default_str();
     app.add_flag("--compare", options.compare, "write one sheet that shows what every method makes of the picture");
-    addSize(&app, "--zone-plate", options.zonePlate, "take a test picture of this size, rings of every fineness, in place of IN");
-    app.add_option("--threads", options.tiling.threads, "at most")->check(CLI::Range(1, 1024))->capture_default_str();
-    addSize(&app, "--tile", options.tiling.tile, "cut the work into tiles of this size");
+    addSize(app, "--zone-plate", options.zonePlate, "take a test picture of this size, rings of every fineness, in place of IN");
+    app.add_option("--threads", options.tiling.threads, "that share the work")->check(CLI::Range(1, 1024))->option_text("N=" + std::to_string(options.tiling.threads));
+    addSize(app, "--tile", options.tiling.tile, "cut the work into tiles of this size");
     app.add_flag("--progress", options.progress, "report progress even where stderr is no terminal");
     app.set_version_flag("--version", libraryVersion());
     app.footer("The result has the samples (8 or 16 bits) and channels (grey, RGB, RGBA) of the input; JPEG has 8 bits and no\n"
-               "alpha. Colour profile and EXIF data are kept. Mpixel/s counts the pixels of the larger\n"
-               "picture, IN or OUT, and not the time for files.\n"
+               "alpha. Colour profile and EXIF data are kept. Mpixel/s counts the pixels of the larger picture, IN or OUT,\n"
+               "and not the time for files.\n"
                "Exit codes: 0 success, 1 usage or sizes that the method does not allow, 2 a picture cannot be read,\n"
                "3 a picture cannot be written, 4 a failure in the library or the program.");
 }
@@ -90,6 +88,8 @@ void declare(CLI::App& app, Options& options) {
 std::vector<Job> jobsOf(const Options& options) {
     std::vector<fs::path> inputs(options.files.begin(), options.files.end() - 1);
     const fs::path& out = options.files.back();
+    if (options.size.has_value() + options.fit.has_value() + options.scale.has_value() != 1)
+        throw CLI::RequiredError("one of --size, --fit and --scale");
     if (options.zonePlate && !inputs.empty()) throw CLI::ValidationError("--zone-plate", "takes the place of IN, give OUT alone");
     if (options.zonePlate) inputs.push_back("zone-plate.png");
     if (inputs.empty()) throw CLI::ValidationError("files", "give at least one picture to read and then where to write");
@@ -122,7 +122,7 @@ KvriSize scaled(KvriSize size, double factor) {
 
 KvriSize sizeFor(KvriSize source, const Options& options) {
     if (options.size) return *options.size;
-    if (!options.fit) return scaled(source, options.scale);
+    if (!options.fit) return scaled(source, *options.scale);
     return scaled(source, std::min(double(options.fit->width) / source.width, double(options.fit->height) / source.height));
 }
 

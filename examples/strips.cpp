@@ -10,8 +10,6 @@
 namespace demo {
 namespace {
 
-constexpr int64_t kStripBytes = 16 << 20;  // about as many of a strip's source and destination together
-
 int partsOf(int length, int part) { return (length + part - 1) / part; }
 
 class RowBuffer {
@@ -64,7 +62,7 @@ public:
     Plan(const Resizer& resizer, const Tiling& tiling) : resizer_(resizer), tile_(tiling.tile) {
         const KvriSize from = resizer.source(), to = resizer.destination();
         const int64_t pixelsPerRow = to.width + int64_t(from.width) * from.height / to.height;
-        const int fitting = int(std::clamp<int64_t>(kStripBytes / (pixelsPerRow * resizer.kind().bytes()), 1, to.height));
+        const int fitting = int(std::clamp<int64_t>(tiling.stripBytes / (pixelsPerRow * resizer.kind().bytes()), 1, to.height));
         if (tile_.width == 0) tile_ = {partsOf(to.width, tiling.threads), fitting};
         tile_ = {std::min(tile_.width, to.width), std::min(tile_.height, to.height)};
         height_ = std::max(fitting / tile_.height, 1) * tile_.height;

@@ -9,7 +9,8 @@ namespace demo {
 
 struct Tiling {
     int threads = 1;
-    KvriSize tile{0, 0};  // 0: as suits the picture and the threads
+    KvriSize tile{0, 0};            // 0: as suits the picture and the threads
+    int64_t stripBytes = 16 << 20;  // about as many of a strip's source and destination together
 };
 
 // Reads the source to its end and writes the destination, also at the same time where there are several threads. A strip's tiles
