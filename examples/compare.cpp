@@ -37,13 +37,11 @@ Comparison compareMethods(const AnyImage& picture, const std::string& title, Kvr
     const int count = int(methods().size());
     ContactSheet sheet(title, count, {count / 2, {std::max(size.width, kNarrowest), size.height}});
     Table table({{"method"}, {"ms", Column::Right}, {"Mpixel/s", Column::Right}});
-    const KvriSize from = sizeOf(picture);
-    const double pixels = std::max(double(from.width) * from.height, double(size.width) * size.height);
     int done = 0;
     for (const Method& method : methods()) try {
         const auto [image, seconds] = std::visit([&](const auto& p) { return resized(p, method, cubic, size); }, picture);
         sheet.add(image, method.name, method.description);
-        table.add({method.name, decimal(seconds * 1e3, 2), decimal(pixels / seconds / 1e6, 0)});
+        table.add({method.name, decimal(seconds * 1e3, 2), decimal(double(size.width) * size.height / seconds / 1e6, 1)});
         progress(double(++done) / count);
     } catch (const MethodError& e) {
         sheet.addMissing(method.name, e.what());

@@ -78,8 +78,8 @@ void declare(CLI::App& app, Options& options) {
     app.add_flag("--progress", options.progress, "report progress even where stderr is no terminal");
     app.set_version_flag("--version", libraryVersion());
     app.footer("The result has the samples (8 or 16 bits) and channels (grey, RGB, RGBA) of the input; JPEG has 8 bits and no\n"
-               "alpha. Colour profile and EXIF data are kept. Mpixel/s counts the pixels of the larger picture, IN or OUT,\n"
-               "and not the time for files.\n"
+               "alpha. Colour profile and EXIF data are kept. Mpixel/s counts the pixels of the result, and not the\n"
+               "time for files.\n"
                "Exit codes: 0 success, 1 usage or sizes that the method does not allow, 2 a picture cannot be read,\n"
                "3 a picture cannot be written, 4 a failure in the library or the program.");
 }
@@ -131,8 +131,6 @@ std::unique_ptr<RowReader> open(const Job& job, const Options& options) {
     return openPicture(job.from, options.compare ? Depth::Eight : Depth::AsStored);
 }
 
-double pixels(KvriSize size) { return double(size.width) * size.height; }
-
 double secondsSince(std::chrono::steady_clock::time_point start) {
     return std::chrono::duration<double>(std::chrono::steady_clock::now() - start).count();
 }
@@ -151,7 +149,7 @@ void resize(const Job& job, const Options& options, Progress& progress) {
     std::cout << job.from.string() << " (" << toString(from.size) << ", " << toString(from.kind) << ") -> " << job.to.string() << " ("
               << toString(size) << "): " << options.method << ", " << options.tiling.threads
               << (options.tiling.threads == 1 ? " thread, " : " threads, ") << decimal(seconds * 1e3, 1) << " ms, "
-              << decimal(std::max(pixels(from.size), pixels(size)) / seconds / 1e6, 0) << " Mpixel/s; with files "
+              << decimal(double(size.width) * size.height / seconds / 1e6, 1) << " Mpixel/s; with files "
               << decimal(secondsSince(start), 2) << " s\n";
 }
 
