@@ -41,10 +41,10 @@ Comparison compareMethods(const AnyImage& picture, const std::string& title, Kvr
     for (const Method& method : methods()) try {
         const auto [image, seconds] = std::visit([&](const auto& p) { return resized(p, method, cubic, size); }, picture);
         sheet.add(image, method.name, method.description);
-        table.add({method.name, decimal(seconds * 1e3, 2), decimal(double(size.width) * size.height / seconds / 1e6, 1)});
+        table.add({method.name, decimal(seconds * 1e3, 3), decimal(double(size.width) * size.height / seconds / 1e6, 1)});
         progress(double(++done) / count);
-    } catch (const MethodError& e) {
-        sheet.addMissing(method.name, e.what());
+    } catch (const MethodError&) {
+        sheet.addMissing(method.name, "not for these sizes");
         table.add({method.name, "-", "-"});
     }
     return {std::move(table), std::move(sheet).page()};
