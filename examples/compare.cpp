@@ -43,7 +43,7 @@ Comparison compareMethods(const AnyImage& picture, const std::string& title, Kvr
         sheet.add(image, method.name, method.description);
         table.add({method.name, decimal(seconds * 1e3, 3), decimal(double(size.width) * size.height / seconds / 1e6, 1)});
         progress(double(++done) / count);
-    } catch (const MethodError&) {
+    } catch (const SizeError&) {
         sheet.addMissing(method.name, "not for these sizes");
         table.add({method.name, "-", "-"});
     }

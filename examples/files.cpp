@@ -21,7 +21,7 @@ File openToRead(const fs::path& path) {
 OutputFile::OutputFile(const fs::path& path) : path_(path), part_(path) {
     std::error_code unreadable;  // opening the file tells the reason
     const fs::file_type type = fs::symlink_status(path, unreadable).type();
-    if (type == fs::file_type::regular || type == fs::file_type::not_found) part_ += ".part";
+    if (type == fs::file_type::regular || type == fs::file_type::not_found) part_ += ".kvri-part";
     const bool readOnly = type == fs::file_type::regular && access(path.c_str(), W_OK) != 0;
     if (!readOnly) file_.reset(std::fopen(part_.c_str(), "wb"));
     if (!file_) throw CodecError(lastSystemError());

@@ -111,19 +111,23 @@ std::vector<Job> jobsOf(const Options& options) {
 
 // ---- the work
 
+constexpr int kLongest = 1'000'000;  // side of a picture; PNG's library takes no longer ones either
+
 KvriSize scaled(KvriSize size, double factor) {
-    const auto length = [&](int n) {
-        const double result = std::round(n * factor);
-        if (result > 999'999'999) throw MethodError("a result of " + toString(size) + " pixels times " + decimal(factor, 1) + " is too large");
-        return std::max(1, int(result));
-    };
+    const auto length = [&](int n) { return std::max(1, int(std::min(std::round(n * factor), kLongest + 1.0))); };
     return {length(size.width), length(size.height)};
 }
 
-KvriSize sizeFor(KvriSize source, const Options& options) {
+KvriSize wantedSize(KvriSize source, const Options& options) {
     if (options.size) return *options.size;
-    if (!options.fit) return scaled(source, *options.scale);
+    if (options.scale) return scaled(source, *options.scale);
     return scaled(source, std::min(double(options.fit->width) / source.width, double(options.fit->height) / source.height));
+}
+
+KvriSize sizeFor(KvriSize source, const Options& options) {
+    const KvriSize size = wantedSize(source, options);
+    if (std::max(size.width, size.height) > kLongest) throw SizeError("the result would have a side of more than a million pixels");
+    return size;
 }
 
 std::unique_ptr<RowReader> open(const Job& job, const Options& options) {
@@ -175,7 +179,7 @@ template <class Work>
 int reportingErrors(const Work& work) try {
     work();
     return kSuccess;
-} catch (const MethodError& e) {
+} catch (const SizeError& e) {
     return fail(kUsage, e.what());
 } catch (const InputError& e) {
     return fail(kInput, e.what());

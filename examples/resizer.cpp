@@ -88,10 +88,10 @@ Resizer::Resizer(const Method& method, CubicFamily cubic, PixelKind kind, KvriSi
 void Resizer::requireSizes() const {
     const int least = method_.smallestSource;
     if (source_.width < least || source_.height < least)
-        throw MethodError(std::string(method_.name) + " needs a picture of at least " + toString(KvriSize{least, least}) +
+        throw SizeError(std::string(method_.name) + " needs a picture of at least " + toString(KvriSize{least, least}) +
                           " pixels, this one has " + toString(source_));
     if (method_.interpolation == kvrInterpSuper && (destination_.width > source_.width || destination_.height > source_.height))
-        throw MethodError("super does not enlarge: " + toString(source_) + " to " + toString(destination_) + " pixels");
+        throw SizeError("super does not enlarge: " + toString(source_) + " to " + toString(destination_) + " pixels");
 }
 
 void Resizer::init(CubicFamily cubic) {

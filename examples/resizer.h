@@ -27,8 +27,8 @@ struct CubicFamily {
     float b = 0, c = 0.5f;
 };
 
-// The sizes do not allow the method.
-struct MethodError : std::runtime_error {
+// A size that cannot be, or that the method does not allow.
+struct SizeError : std::runtime_error {
     using std::runtime_error::runtime_error;
 };
 

@@ -160,7 +160,7 @@ TEST(Methods, CubicTakesItsParameters) {
 std::string refusal(const std::string& method, KvriSize from, KvriSize to) {
     try {
         Resizer(methodOf(method), {}, {3, 8}, from, to);
-    } catch (const MethodError& e) {
+    } catch (const SizeError& e) {
         return e.what();
     }
     return "";
