@@ -58,7 +58,7 @@ struct Resizer::Functions {
      KVRI_APPLY(kvriResizeCubic_##type##_##layout##R, type), KVRI_APPLY(kvriResizeLanczos_##type##_##layout##R, type),   \
      KVRI_APPLY(kvriResizeSuper_##type##_##layout##R, type),                                                       \
      KVRI_APPLY(kvriResizeAntialiasing_##type##_##layout##R, type)}
-#define KVRI_RESIZE(type)                                                                                          \
+#define KVRI_RESIZE_FUNCTIONS(type)                                                                                          \
     {KVRI_CALL(kvriResizeGetSize_##type), KVRI_CALL(kvriResizeNearestInit_##type), KVRI_CALL(kvriResizeLinearInit_##type), \
      KVRI_CALL(kvriResizeSuperInit_##type), KVRI_CALL(kvriResizeCubicInit_##type),                                 \
      KVRI_CALL(kvriResizeLanczosInit_##type), KVRI_CALL(kvriResizeGetBufferSize_##type),                           \
@@ -66,8 +66,8 @@ struct Resizer::Functions {
      KVRI_CALL(kvriResizeGetSrcRoi_##type),                                                                        \
      {KVRI_APPLY_ALL(type, C1), KVRI_APPLY_ALL(type, C3), KVRI_APPLY_ALL(type, C4)}}
 
-constexpr Resizer::Functions Resizer::Functions::of8u = KVRI_RESIZE(8u);
-constexpr Resizer::Functions Resizer::Functions::of16u = KVRI_RESIZE(16u);
+constexpr Resizer::Functions Resizer::Functions::of8u = KVRI_RESIZE_FUNCTIONS(8u);
+constexpr Resizer::Functions Resizer::Functions::of16u = KVRI_RESIZE_FUNCTIONS(16u);
 
 std::span<const Method> methods() { return kMethods; }
 
