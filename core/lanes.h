@@ -66,6 +66,13 @@ inline Vec<int32_t, sizeof(V)> multiplyPairs(V a, V b) {
     KVRI_BY_WIDTH(R, madd_epi16, raw(a), raw(b));
 }
 
+// Sums of the two products of neighbouring 8u in a and 8s in b, saturated.
+template <class V>
+inline Vec<int16_t, sizeof(V)> multiplyPairsOfBytes(V a, V b) {
+    using R = Vec<int16_t, sizeof(V)>;
+    KVRI_BY_WIDTH(R, maddubs_epi16, raw(a), raw(b));
+}
+
 // 64-bit products of the first of every two 32s.
 template <class V>
 inline Vec<int64_t, sizeof(V)> multiplyEven(V a, V b) {
@@ -205,6 +212,13 @@ inline Vec<ElementOf<H>, 2 * sizeof(H)> joinHalves(H lower, H upper) {
     return [&]<int... i>(std::integer_sequence<int, i...>) {
         return __builtin_shufflevector(lower, upper, i...);
     }(std::make_integer_sequence<int, 2 * sizeof(H) / sizeof(ElementOf<H>)>{});
+}
+
+// A vector of W bytes whose lane i is lane(i).
+template <int W, class F>
+KVRI_INLINE inline Bytes<W> fromLanes(F lane) {
+    if constexpr (W == 16) return lane(0);
+    else return joinHalves(fromLanes<W / 2>(lane), fromLanes<W / 2>([&](int i) KVRI_INLINE { return lane(i + W / 32); }));
 }
 
 // To 32s by the processor's rounding mode, and toward zero; what lies outside of the range becomes its minimum.

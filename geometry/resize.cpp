@@ -8,6 +8,7 @@
 #include "core/fpcontrol.h"
 #include "core/layout.h"
 #include "geometry/resize_apply.h"
+#include "geometry/resize_halve.h"
 #include "geometry/resize_rows.h"
 
 namespace kvri {
@@ -51,7 +52,7 @@ private:
             const uint8_t* rows[kResizeRowGroup];
             const int n = std::min(taps - t, kResizeRowGroup);
             for (int k = 0; k < n; ++k) rows[k] = tile_.source(first + t + k, low, pixelBytes);
-            if (t == 0) sumRows<T>(rows, weight, n, samples, RowOf<F>(sums));
+            if (t == 0) sumRows<T>(rows, weight, n, samples, AlignedRowOf<F>(sums));
             else sumRows<T, 0, true>(rows, weight + t, n, samples, sums, RowOf<F>(sums));
         }
     }
@@ -66,11 +67,26 @@ private:
 
     void rowsFirst(int x) {
         const int low = tile_.columns(strip_.first), high = tile_.columns(strip_.last);
+        F* row = alignedLike(tile_.source(firstRow(0), low, pixelBytes), (low - strip_.first) * C);
         for (int y = 0; y < tile_.size.height; ++y) {
-            sumSource(y, low, high, row_ + ptrdiff_t(low - strip_.first) * C);
-            extend(row_, strip_.first, low, high, strip_.last);
-            strip_.template apply<C>(row_, RowOf<T>(tile_.destination(y, x, pixelBytes)));
+            if (y + 2 < tile_.size.height) prefetchSource(y + 2, low, high);
+            sumSource(y, low, high, row + ptrdiff_t(low - strip_.first) * C);
+            extend(row, strip_.first, low, high, strip_.last);
+            strip_.template apply<C>(row, RowOf<T>(tile_.destination(y, x, pixelBytes)));
         }
+    }
+
+    // A place for a row whose sample `i` is as far from a whole vector as the source sample at p.
+    F* alignedLike(const uint8_t* p, int i) {
+        constexpr uintptr_t lanes = kReals<T>;
+        return row_ + (reinterpret_cast<uintptr_t>(p) / sizeof(T) - uintptr_t(i)) % lanes;
+    }
+
+    // Rows that destination row y is the first to use.
+    void prefetchSource(int y, int low, int high) const {
+        const int taps = spec_.y.taps, end = firstRow(y) + taps;
+        for (int row = std::max(firstRow(y - 1) + taps, end - kResizeRowGroup); row < end; ++row)
+            prefetch(tile_.source(row, low, pixelBytes), (high - low + 1) * pixelBytes);
     }
 
     void columnsFirst(int x) {
@@ -91,7 +107,11 @@ private:
                 }
                 rows[t] = place;
             }
-            sumRows<F>(rows, rowWeights(y), taps, samples, RowOf<T>(tile_.destination(y, x, pixelBytes)));
+            tile_.prefetchDestination(y + 2, x, strip_.pixels, pixelBytes);
+            uint8_t* dst = tile_.destination(y, x, pixelBytes);
+            if (tile_.streams && reinterpret_cast<uintptr_t>(dst) % sizeof(T) == 0)
+                sumRows<F>(rows, rowWeights(y), taps, samples, StreamedRowOf<T>(dst));
+            else sumRows<F>(rows, rowWeights(y), taps, samples, RowOf<T>(dst));
         }
     }
 
@@ -146,10 +166,12 @@ KvrStatus resize(const T* pSrc, int srcStep, T* pDst, int dstStep, KvriPoint dst
     constexpr Accepts accepts{isDouble ? kResizeSpecId64f : kResizeSpecId, Method, Antialiasing,
                               isDouble ? ResizeWeights::Double : ResizeWeights::Float};
     const auto run = [](const ResizeTile& tile) {
+        if constexpr (std::is_integral_v<T> && (Method == kvrInterpLinear || Method == kvrInterpSuper))
+            if (halves(tile.spec)) return Halver<T, L::channels, Ties::Even>::run(tile);
         const DefaultFloatControl control;
         Resizer<T, L::channels>(tile).run();
     };
-    return applyResize(accepts, run, pSrc, srcStep, pDst, dstStep, dstOffset, dstSize, border, pSpec, pBuffer);
+    return applyResize<L::channels>(accepts, run, pSrc, srcStep, pDst, dstStep, dstOffset, dstSize, border, pSpec, pBuffer);
 }
 
 template <class T, class L>

@@ -4,6 +4,8 @@
 #include <climits>
 
 #include "core/check.h"
+#include "core/layout.h"
+#include "core/simd.h"
 #include "geometry/resize_spec.h"
 
 namespace kvri {
@@ -39,6 +41,11 @@ struct Readable {
     int operator()(int position) const { return std::clamp(position, low, high); }
 };
 
+// A strip's rows lie too far apart for the processor to foresee them.
+inline void prefetch(const uint8_t* p, ptrdiff_t bytes) {
+    for (ptrdiff_t i = 0; i < bytes; i += 64) __builtin_prefetch(p + i);
+}
+
 struct ResizeTile {
     const ResizeSpec& spec;
     const uint8_t* src;  // where source pixel `origin` lies
@@ -49,22 +56,30 @@ struct ResizeTile {
     KvriSize size;
     Readable columns, rows;
     uint8_t* buffer;
+    bool streams;  // the destination is written past the caches
 
     // Source row `row`, or what stands for it, from column `column` on.
     const uint8_t* source(int row, int column, ptrdiff_t pixelBytes) const {
         return src + (rows(row) - origin.y) * srcStep + (ptrdiff_t(column) - origin.x) * pixelBytes;
     }
     uint8_t* destination(int y, int x, ptrdiff_t pixelBytes) const { return dst + y * dstStep + x * pixelBytes; }
+    // For pixels x to x + n - 1 to be written some rows later.
+    void prefetchDestination(int y, int x, int n, ptrdiff_t pixelBytes) const {
+        if (y < size.height && !streams) prefetch(destination(y, x, pixelBytes), n * pixelBytes);
+    }
 };
 
 // The body of an apply function: checks, then run(tile).
-template <class T, class Run>
+template <int C, class T, class Run>
 KvrStatus applyResize(const Accepts& accepts, Run run, const T* pSrc, int srcStep, T* pDst, int dstStep, KvriPoint dstOffset,
                       KvriSize dstSize, KvriBorderType border, const KvriResizeSpec* pSpec, Kvr8u* pBuffer) {
     if (KvrStatus e = firstError(nonNull(pSrc, pDst, pSpec, pBuffer), lengthsNotZero(dstSize))) return e;
+    constexpr ptrdiff_t pixelBytes = C * sizeof(T);
     const ResizeSpec& spec = *alignedSpec(pSpec);
     if (KvrStatus e = carriesId(pSpec, accepts.id)) return e;
     if (KvrStatus e = firstError(hasPixels(dstSize), insideDestination(spec, dstOffset), accepts(spec), borderSupported(border))) return e;
+    const KvriSize size = clipped(spec, dstOffset, dstSize);
+    const bool streams = exceedsCache(size, pixelBytes);
     run(ResizeTile{spec,
                    reinterpret_cast<const uint8_t*>(pSrc),
                    srcStep,
@@ -72,10 +87,12 @@ KvrStatus applyResize(const Accepts& accepts, Run run, const T* pSrc, int srcSte
                    dstStep,
                    dstOffset,
                    {spec.origin(spec.x, dstOffset.x), spec.origin(spec.y, dstOffset.y)},
-                   clipped(spec, dstOffset, dstSize),
+                   size,
                    Readable(spec.x, border, kvrBorderInMemLeft, kvrBorderInMemRight, spec.border.left),
                    Readable(spec.y, border, kvrBorderInMemTop, kvrBorderInMemBottom, spec.border.top),
-                   pBuffer});
+                   pBuffer,
+                   streams});
+    if (streams) fenceStreams();
     return withinDestination(spec, dstSize);
 }
 

@@ -3,12 +3,15 @@
 // Along a row, a pair of samples times its 14-bit weights is one multiply-add of 16-bit numbers, with a result h of 22 bits.
 // For the second one h is split as high * 2^11 + low: with S the weighted sum of two such parts,
 //     (high S * 2^11 + low S + 2^27) >> 28 = (high S + ((low S + 2^27) >> 11)) >> 17.
+//
+// Where all weights are multiples of 1/8, as they are when an image is enlarged 2, 4 or 8 times, both sums fit in 16 bits.
 #include <cstring>
 
 #include "core/dispatch.h"
 #include "core/lanes.h"
 #include "core/layout.h"
 #include "geometry/resize_apply.h"
+#include "geometry/resize_halve.h"
 
 namespace kvri {
 namespace {
@@ -34,118 +37,177 @@ struct RowPair {
     }
 };
 
+// The same for weights of 3 bits, of sums of 11 bits.
+struct EighthsPair {
+    using Words = Vec<uint16_t>;
+    Words upper, lower;
+
+    explicit EighthsPair(int w) : upper(splat<Words>(uint16_t(8 - (w >> 11)))), lower(splat<Words>(uint16_t(w >> 11))) {}
+
+    Pairs operator()(Words a, Words b) const { return (Pairs)((a * upper + b * lower + 32) >> 6); }
+};
+
+constexpr int kLanes = kVectorBytes / 16;
+
+void storeBytes(uint8_t* dst, Bytes<> v, int n) {
+    if (n >= kVectorBytes) store(dst, v);
+    else storePart(dst, v, n);
+}
+
 void combineRows(const uint8_t* upper, const uint8_t* lower, int w, int samples, uint8_t* dst) {
-    constexpr int lanes = kVectorBytes / 16;
     const RowPair combine(w);
-    const auto at = [](const uint8_t* row, int i) KVRI_INLINE { return load<Split>(row + ptrdiff_t(i) * 4); };
-    int i = 0;
-    for (; samples - i >= 4 * kSums; i += 4 * kSums) {
+    for (int i = 0; i < samples; i += kVectorBytes) {
         Sums v[4];
-        unroll<4>([&](auto u) KVRI_INLINE { v[u] = combine(at(upper, i + u * kSums), at(lower, i + u * kSums)); });
+        const int n = samples - i;
+        unroll<4>([&](auto u) KVRI_INLINE {
+            const auto at = [&](const uint8_t* row) KVRI_INLINE {
+                const uint8_t* p = row + ptrdiff_t(i) * 4 + u * kVectorBytes;
+                return n >= kVectorBytes ? load<Split>(p) : (Split)loadPart<Bytes<>>(p, 4 * n - u * kVectorBytes);
+            };
+            v[u] = combine(at(upper), at(lower));
+        });
         const auto bytes = narrow<uint8_t>(narrow<int16_t>(v[0], v[1]), narrow<int16_t>(v[2], v[3]));
-        if constexpr (lanes == 1) store(dst + i, bytes);
-        else store(dst + i, permute4(bytes, [](int k) { return k % lanes * 4 + k / lanes; }));
+        if constexpr (kLanes == 1) storeBytes(dst + i, bytes, n);
+        else storeBytes(dst + i, permute4(bytes, [](int k) { return k % kLanes * 4 + k / kLanes; }), n);
     }
-    for (; i < samples; i += kSums) {
-        const int n = std::min(samples - i, kSums);
-        const auto part = [&](const uint8_t* row) KVRI_INLINE { return (Split)loadPart<Bytes<>>(row + ptrdiff_t(i) * 4, n * 4); };
-        const Sums v = combine(part(upper), part(lower));
-        const auto words = narrow<int16_t>(v, v);
-        const auto bytes = narrow<uint8_t>(words, words);
-        if constexpr (lanes == 1) storePart(dst + i, bytes, n);
-        else storePart(dst + i, permute4(bytes, [](int k) { return k % lanes * 4; }), n);
+}
+
+void combineEighths(const uint8_t* upper, const uint8_t* lower, int w, int samples, uint8_t* dst) {
+    using Words = EighthsPair::Words;
+    const EighthsPair combine(w);
+    for (int i = 0; i < samples; i += kVectorBytes) {
+        Pairs v[2];
+        const int n = samples - i;
+        unroll<2>([&](auto u) KVRI_INLINE {
+            const auto at = [&](const uint8_t* row) KVRI_INLINE {
+                const uint8_t* p = row + ptrdiff_t(i) * 2 + u * kVectorBytes;
+                return n >= kVectorBytes ? load<Words>(p) : (Words)loadPart<Bytes<>>(p, 2 * n - u * kVectorBytes);
+            };
+            v[u] = combine(at(upper), at(lower));
+        });
+        const auto bytes = narrow<uint8_t>(v[0], v[1]);
+        if constexpr (kLanes == 1) storeBytes(dst + i, bytes, n);
+        else storeBytes(dst + i, permute4(bytes, [](int k) { return (k / 2 % kLanes * 2 + k / 2 / kLanes) * 2 + k % 2; }), n);
     }
 }
 
 constexpr int kStripSamples = 512, kRowBytes = 4096, kRowSlack = 16;
 constexpr int kDenseRatio = 7;  // from here on only the taps are copied
 
-// A strip of destination columns. A lane of four samples has its taps within 16 bytes of a row of source columns.
-template <int C>
+// A strip of destination columns. A lane of samples has its taps within 16 bytes of a row of source columns: four samples
+// with 14-bit weights, or eight with eighths.
+template <int C, bool Eighths>
 class LinearStrip {
-    alignas(64) uint8_t control_[4 * kStripSamples + 64];  // per sample: left, 0, right, 0
-    alignas(64) int32_t weight_[kStripSamples + 16];
-    int32_t base_[kStripSamples / 4 + 4];
+    static constexpr int perLane = Eighths ? 8 : 4;
+
+    alignas(64) uint8_t control_[16 / perLane * kStripSamples + 64];  // per sample: left and right, as 8- or 16-bit numbers
+    alignas(64) uint8_t weight_[16 / perLane * kStripSamples + 64];   // the same
+    int32_t base_[kStripSamples / perLane + 4];
 
 public:
+    static constexpr int sumBytes = 16 / perLane;
     static constexpr int most = kStripSamples / C / 16 * 16;
     int first, last, pixels;  // source columns, destination pixels
     bool sparse;              // the row holds pairs of taps
 
     int samples() const { return pixels * C; }
 
-    void prepare(const ResizeSpec& spec, int position, int count) {
+    // False where a lane's taps lie too far apart; pairs of 14-bit weights can always be held.
+    bool prepare(const ResizeSpec& spec, int position, int count) {
         const int32_t* index = spec.table<int32_t>(spec.x.index) + position;
         const int32_t* weight = spec.table<int32_t>(spec.x.weights) + position;
         pixels = count;
         first = index[0];
         last = index[count - 1] + (weight[count - 1] >> 16 != 0);
-        for (int i = 0; i < count; ++i)
-            for (int c = 0; c < C; ++c) weight_[i * C + c] = weight[i];
-        std::fill(weight_ + samples(), weight_ + (samples() + 15) / 16 * 16, 0);
-        sparse = spec.x.ratio() > kDenseRatio || !place(index);
-        if (sparse) place(nullptr);
+        std::memset(weight_ + samples() * sumBytes, 0, sizeof weight_ - size_t(samples() * sumBytes));
+        for (int i = 0; i < count; ++i) setWeight(i, weight[i]);
+        sparse = false;
+        if (spec.x.ratio() <= kDenseRatio && place(index)) return true;
+        sparse = true;
+        return !Eighths && place(nullptr);
     }
 
-    // Split sums of every sample.
+    // Sums of every sample: split ones, or 16-bit ones.
     void apply(const uint8_t* row, uint8_t* out) const {
-        constexpr int lanes = kVectorBytes / 16;
+        constexpr int lanes = kVectorBytes / 16, perVector = lanes * perLane;
         const auto sums = [&](int i) KVRI_INLINE {
-            const int32_t* base = base_ + i / 4;
-            Bytes<> v;
-            if constexpr (lanes == 1) v = load<Bytes<>>(row + base[0]);
-            else if constexpr (lanes == 2) v = joinHalves(load<Bytes<16>>(row + base[0]), load<Bytes<16>>(row + base[1]));
-            else
-                v = joinHalves(joinHalves(load<Bytes<16>>(row + base[0]), load<Bytes<16>>(row + base[1])),
-                               joinHalves(load<Bytes<16>>(row + base[2]), load<Bytes<16>>(row + base[3])));
-            return split(multiplyPairs((Pairs)shuffle(v, load<Bytes<>>(control_ + 4 * i)), load<Pairs>(weight_ + i)));
+            const int32_t* base = base_ + i / perLane;
+            const auto v = fromLanes<kVectorBytes>([&](int l) KVRI_INLINE { return load<Bytes<16>>(row + base[l]); });
+            const auto taps = shuffle(v, load<Bytes<>>(control_ + sumBytes * i));
+            const auto weights = load<Bytes<>>(weight_ + sumBytes * i);
+            if constexpr (Eighths) return (Bytes<>)multiplyPairsOfBytes(taps, weights);
+            else return (Bytes<>)split(multiplyPairs((Pairs)taps, (Pairs)weights));
         };
         int i = 0;
-        for (; samples() - i >= kSums; i += kSums) store(out + 4 * i, sums(i));
-        if (i < samples()) storePart(out + 4 * i, (Bytes<>)sums(i), 4 * (samples() - i));
+        for (; samples() - i >= perVector; i += perVector) store(out + sumBytes * i, sums(i));
+        if (i < samples()) storePart(out + sumBytes * i, sums(i), sumBytes * (samples() - i));
     }
 
 private:
+    void setWeight(int pixel, int32_t pair) {
+        const int w = pair >> 16;
+        if constexpr (Eighths) pair = (w >> 11) << 8 | (8 - (w >> 11));
+        for (int c = 0; c < C; ++c) std::memcpy(weight_ + (pixel * C + c) * sumBytes, &pair, sumBytes);
+    }
+
     // Places in a row of all columns from the first on, or of pairs; false where a lane's taps lie too far apart.
     bool place(const int32_t* index) {
-        const auto at = [&](int sample) { return (index ? index[sample / C] - first : sample / C * 2) * C + sample % C; };
         int reach = 0;
-        for (int i = 0; i < (samples() + 15) / 16 * 16; i += 4) {
-            const int n = std::clamp(samples() - i, 0, 4);
-            int low = n > 0 ? at(i) : 0;
-            for (int k = 1; k < n; ++k) low = std::min(low, at(i + k));
-            base_[i / 4] = low;
-            for (int k = 0; k < 4; ++k) {
-                const int left = k < n ? at(i + k) - low : 0;
-                reach = std::max(reach, left + C);
-                const uint32_t control = 0x80008000u | uint32_t(left & 127) | uint32_t((left + C) & 127) << 16;
-                std::memcpy(control_ + 4 * (i + k), &control, 4);
+        const int lanes = (samples() + perLane - 1) / perLane;
+        const auto at = [&](int sample) { return (index ? index[sample / C] - first : sample / C * 2) * C + sample % C; };
+        for (int lane = 0; lane < lanes; ++lane) {
+            const int begin = lane * perLane, n = std::min(samples() - begin, perLane);
+            int places[perLane], low = INT_MAX;
+            for (int k = 0, pixel = begin / C, c = begin % C; k < perLane; ++k) {
+                places[k] = k < n ? at(pixel * C + c) : places[0];
+                low = std::min(low, places[k]);
+                if (++c == C) c = 0, ++pixel;
+            }
+            base_[lane] = low;
+            for (int k = 0; k < perLane; ++k) {
+                const int left = places[k] - low, right = left + C;
+                reach = std::max(reach, right);
+                const uint32_t control = Eighths ? uint32_t(left | right << 8) : 0x80008000u | uint32_t(left) | uint32_t(right) << 16;
+                std::memcpy(control_ + (begin + k) * sumBytes, &control, sumBytes);
             }
         }
+        for (int lane = lanes; lane < lanes + 4; ++lane) base_[lane] = 0;
         return reach < 16;
     }
 };
 
-template <int C>
+template <int C, bool Eighths>
 class LinearResizer {
     const ResizeTile& tile_;
     const ResizeSpec& spec_ = tile_.spec;
-    LinearStrip<C> strip_;
+    LinearStrip<C, Eighths> strip_;
     alignas(64) uint8_t row_[kRowBytes + kRowSlack];
 
 public:
     explicit LinearResizer(const ResizeTile& tile) : tile_(tile) {}
 
-    void run() {
+    // False, with nothing done, where the weights or the taps' places are none of eighths.
+    bool run() {
+        if (Eighths && !hasEighths()) return false;
         for (int x = 0; x < tile_.size.width; x += strip_.most) {
-            strip_.prepare(spec_, tile_.offset.x + x, std::min(strip_.most, tile_.size.width - x));
+            if (!strip_.prepare(spec_, tile_.offset.x + x, std::min(strip_.most, tile_.size.width - x))) return false;
             runStrip(x);
         }
+        return true;
     }
 
 private:
+    bool hasEighths() const {
+        int32_t bits = 0;
+        const int32_t* columns = spec_.table<int32_t>(spec_.x.weights) + tile_.offset.x;
+        for (int i = 0; i < tile_.size.width; ++i) bits |= columns[i];
+        const int32_t* rows = spec_.table<int32_t>(spec_.y.weights) + tile_.offset.y;
+        for (int i = 0; i < tile_.size.height; ++i) bits |= rows[i];
+        return bits % 2048 == 0 && spec_.x.ratio() <= 1;
+    }
+
     void runStrip(int x) {
-        const ptrdiff_t step = upTo32(4 * ptrdiff_t(strip_.samples()));
+        const ptrdiff_t step = upTo32(strip_.sumBytes * ptrdiff_t(strip_.samples()));
         uint8_t* ring = tile_.buffer + (-reinterpret_cast<uintptr_t>(tile_.buffer) & 63);
         int held[2] = {INT_MIN, INT_MIN};
         const auto sums = [&](int row) {
@@ -161,9 +223,12 @@ private:
         const int32_t* index = spec_.table<int32_t>(spec_.y.index) + tile_.offset.y;
         const int32_t* weight = spec_.table<int32_t>(spec_.y.weights) + tile_.offset.y;
         for (int y = 0; y < tile_.size.height; ++y) {
+            tile_.prefetchDestination(y + 2, x, strip_.pixels, C);
             const uint8_t* upper = sums(index[y]);
             const uint8_t* lower = weight[y] == 0 ? upper : sums(index[y] + 1);
-            combineRows(upper, lower, weight[y], strip_.samples(), tile_.destination(y, x, C));
+            uint8_t* dst = tile_.destination(y, x, C);
+            if constexpr (Eighths) combineEighths(upper, lower, weight[y], strip_.samples(), dst);
+            else combineRows(upper, lower, weight[y], strip_.samples(), dst);
         }
     }
 
@@ -199,8 +264,11 @@ template <class L>
 KvrStatus linear(const Kvr8u* pSrc, int srcStep, Kvr8u* pDst, int dstStep, KvriPoint dstOffset, KvriSize dstSize, KvriBorderType border,
                  const Kvr8u*, const KvriResizeSpec* pSpec, Kvr8u* pBuffer) {
     constexpr Accepts accepts{kResizeSpecId, kvrInterpLinear, false, ResizeWeights::Fixed14};
-    const auto run = [](const ResizeTile& tile) { LinearResizer<L::channels>(tile).run(); };
-    return applyResize(accepts, run, pSrc, srcStep, pDst, dstStep, dstOffset, dstSize, border, pSpec, pBuffer);
+    const auto run = [](const ResizeTile& tile) {
+        if (halves(tile.spec)) Halver<Kvr8u, L::channels, Ties::Up>::run(tile);
+        else if (!LinearResizer<L::channels, true>(tile).run()) LinearResizer<L::channels, false>(tile).run();
+    };
+    return applyResize<L::channels>(accepts, run, pSrc, srcStep, pDst, dstStep, dstOffset, dstSize, border, pSpec, pBuffer);
 }
 
 KVRI_EXPORT(kvriResizeLinear_8u_C1R, linear<C1>);

@@ -10,16 +10,17 @@
 namespace kvri {
 namespace {
 
-constexpr int kStripLanes = 64, kLane = 16;
+constexpr int kStripLanes = 512, kLane = 16;
 
-// B: bytes of a pixel.
+// B: bytes of a pixel. The last lane ends with the row, over what the one before it has of the row; no lane is read from
+// beyond the strip's last source pixel.
 template <int B>
 class NearestStrip {
     using Lane = Bytes<kLane>;
 
     alignas(64) uint8_t place_[kStripLanes * kLane];  // of each destination byte, from the lane's base on
     int32_t base_[kStripLanes];
-    int reach_, near_;  // bytes that a lane's shuffle may reach; lanes whose whole reach lies in the strip's source pixels
+    int lanes_, reach_;  // bytes that a lane's shuffle may reach; 0: pixels are copied
 
 public:
     static constexpr int most = kStripLanes * kLane / B;
@@ -29,46 +30,53 @@ public:
     void prepare(const ResizeSpec& spec, int position, int count) {
         index = spec.table<int32_t>(spec.x.index) + position;
         pixels = count;
-        const int bytes = count * B, sourceBytes = (index[count - 1] - index[0] + 1) * B;
+        reach_ = 0;
+        lanes_ = (count * B + kLane - 1) / kLane;
+        if (count * B < kLane) return;
         int widest = 0;
-        for (int i = 0; i < bytes; i += kLane) {
-            const int n = std::min(kLane, bytes - i);
-            int low = at(i);
-            for (int k = 1; k < n; ++k) low = std::min(low, at(i + k));
+        for (int i = 0; i < lanes_; ++i) widest = std::max(widest, lowest(start(i) + kLane - 1, false) - lowest(start(i), true));
+        const int reach = widest < kLane ? kLane : widest < 2 * kLane ? 2 * kLane : 0;
+        const int behind = (index[count - 1] - index[0] + 1) * B - reach;
+        if (reach == 0 || behind < 0) return;
+        reach_ = reach;
+        for (int i = 0; i < lanes_; ++i) {
+            base_[i] = std::min(lowest(start(i), true), behind);
+            int pixel = start(i) / B, byte = start(i) % B;
             for (int k = 0; k < kLane; ++k) {
-                const int place = k < n ? at(i + k) - low : 0;
-                widest = std::max(widest, place);
-                place_[i + k] = uint8_t(place);
+                place_[i * kLane + k] = uint8_t((index[pixel] - index[0]) * B + byte - base_[i]);
+                if (++byte == B) byte = 0, ++pixel;
             }
-            base_[i / kLane] = low;
         }
-        reach_ = widest < kLane ? kLane : widest < 2 * kLane ? 2 * kLane : 0;
-        near_ = 0;
-        if (reach_ != 0)
-            while (near_ < bytes / kLane && base_[near_] + reach_ <= sourceBytes) ++near_;
     }
 
     // src: the pixel of the first source column.
+    template <bool Streamed>
     void apply(const uint8_t* src, uint8_t* dst) const {
-        if (reach_ == kLane) shuffleLanes<1>(src, dst);
-        else if (reach_ != 0) shuffleLanes<2>(src, dst);
-        for (int i = near_ * kLane / B, first = index[0]; i < pixels; ++i)  // a pixel begun in a lane is copied once more
-            std::memcpy(dst + i * B, src + ptrdiff_t(index[i] - first) * B, B);
+        if (reach_ == kLane) return shuffleLanes<1, Streamed>(src, dst);
+        if (reach_ != 0) return shuffleLanes<2, Streamed>(src, dst);
+        for (int i = 0, first = index[0]; i < pixels; ++i) std::memcpy(dst + i * B, src + ptrdiff_t(index[i] - first) * B, B);
     }
 
 private:
-    int at(int byte) const { return (index[byte / B] - index[0]) * B + byte % B; }
+    int start(int lane) const { return std::min(lane * kLane, pixels * B - kLane); }
+    // The lowest or highest source byte of a lane that begins or ends with a destination byte.
+    int lowest(int byte, bool begins) const {
+        const int pixel = byte / B, here = (index[pixel] - index[0]) * B + byte % B;
+        if (begins) return pixel + 1 < pixels && byte % B != 0 ? std::min(here, (index[pixel + 1] - index[0]) * B) : here;
+        return pixel > 0 && byte % B != B - 1 ? std::max(here, (index[pixel - 1] - index[0]) * B + B - 1) : here;
+    }
 
-    template <int Loads>
+    template <int Loads, bool Streamed>
     void shuffleLanes(const uint8_t* src, uint8_t* dst) const {
-        for (int i = 0; i < near_; ++i) {
+        for (int i = 0; i < lanes_; ++i) {
             const uint8_t* p = src + base_[i];
             const Lane place = load<Lane>(place_ + i * kLane);
             Lane v;
             if constexpr (Loads == 1) v = shuffle(load<Lane>(p), place);
             else  // a control byte with its highest bit set gives 0
                 v = shuffle(load<Lane>(p), place + uint8_t(0x70)) | shuffle(load<Lane>(p + kLane), place - uint8_t(kLane));
-            store(dst + i * kLane, v);
+            if (Streamed && i < lanes_ - 1) stream(dst + i * kLane, v);
+            else store(dst + (i < lanes_ - 1 ? i * kLane : start(i)), v);
         }
     }
 };
@@ -79,8 +87,13 @@ void resizeNearest(const ResizeTile& tile) {
     const int32_t* rows = tile.spec.table<int32_t>(tile.spec.y.index) + tile.offset.y;
     for (int x = 0; x < tile.size.width; x += strip.most) {
         strip.prepare(tile.spec, tile.offset.x + x, std::min(strip.most, tile.size.width - x));
-        for (int y = 0; y < tile.size.height; ++y)
-            strip.apply(tile.source(rows[y], strip.index[0], B), tile.destination(y, x, B));
+        for (int y = 0; y < tile.size.height; ++y) {
+            tile.prefetchDestination(y + 2, x, strip.pixels, B);
+            const uint8_t* src = tile.source(rows[y], strip.index[0], B);
+            uint8_t* dst = tile.destination(y, x, B);
+            if (tile.streams && reinterpret_cast<uintptr_t>(dst) % kLane == 0) strip.template apply<true>(src, dst);
+            else strip.template apply<false>(src, dst);
+        }
     }
 }
 
@@ -88,7 +101,7 @@ template <class T, class L>
 KvrStatus nearest(const T* pSrc, int srcStep, T* pDst, int dstStep, KvriPoint dstOffset, KvriSize dstSize, KvriBorderType border,
                   const T*, const KvriResizeSpec* pSpec, Kvr8u* pBuffer) {
     constexpr Accepts accepts{kResizeSpecId, kvrInterpNearest, false, ResizeWeights::None};
-    return applyResize(accepts, resizeNearest<L::channels * sizeof(T)>, pSrc, srcStep, pDst, dstStep, dstOffset, dstSize, border, pSpec,
+    return applyResize<L::channels>(accepts, resizeNearest<L::channels * sizeof(T)>, pSrc, srcStep, pDst, dstStep, dstOffset, dstSize, border, pSpec,
                        pBuffer);
 }
 

@@ -36,12 +36,16 @@ void sumRows(const uint8_t* const* rows, const RealOf<T>* weight, int taps, ptrd
     };
     ptrdiff_t i = 0;
     const auto whole = [](const uint8_t* p) KVRI_INLINE { return loadReals<T>(p); };
+    const auto single = [&](ptrdiff_t end) KVRI_INLINE {
+        for (; end - i >= lanes; i += lanes) out.one(i, block(std::integral_constant<int, 1>{}, i, whole));
+        if (i >= end) return;
+        const auto part = [&](const uint8_t* p) KVRI_INLINE { return loadRealsPart<T>(p, end - i); };
+        out.part(i, block(std::integral_constant<int, 1>{}, i, part), end - i);
+        i = end;
+    };
+    if (const ptrdiff_t head = out.head()) single(std::min(head, samples));
     for (; samples - i >= 4 * lanes; i += 4 * lanes) block(std::integral_constant<int, 4>{}, i, whole);
-    for (; samples - i >= lanes; i += lanes) out.one(i, block(std::integral_constant<int, 1>{}, i, whole));
-    if (i < samples) {
-        const auto part = [&](const uint8_t* p) KVRI_INLINE { return loadRealsPart<T>(p, samples - i); };
-        out.part(i, block(std::integral_constant<int, 1>{}, i, part), samples - i);
-    }
+    single(samples);
 }
 
 template <class T, class Out>
@@ -89,37 +93,44 @@ struct Picker {
 #endif
     }
 
+    static Codes codes(Codes n) {
+        if constexpr (kVectorBytes > 16) return n;
+        else return n * uint32_t(0x04040404) + uint32_t(0x03020100);
+    }
+
+    // What a number's code gains with it.
+    static constexpr Code step(int n) { return code(uint32_t(n)) - code(0); }
+
+    // From a, and b behind it if Reach is 2.
     template <int Reach>
-    static V pick(const F* p, Codes codes) {
-        const V a = load<V>(p);
+    static V pick(V a, V b, Codes codes) {
 #if defined(__AVX512BW__)
         if constexpr (sizeof(F) == 4) {
             if constexpr (Reach == 1) return (V)_mm512_permutexvar_ps((__m512i)codes, (__m512)a);
-            else return (V)_mm512_permutex2var_ps((__m512)a, (__m512i)codes, (__m512)load<V>(p + lanes));
+            else return (V)_mm512_permutex2var_ps((__m512)a, (__m512i)codes, (__m512)b);
         } else {
             if constexpr (Reach == 1) return (V)_mm512_permutexvar_pd((__m512i)codes, (__m512d)a);
-            else return (V)_mm512_permutex2var_pd((__m512d)a, (__m512i)codes, (__m512d)load<V>(p + lanes));
+            else return (V)_mm512_permutex2var_pd((__m512d)a, (__m512i)codes, (__m512d)b);
         }
 #elif defined(__AVX2__)
         const __m256 low = _mm256_permutevar8x32_ps((__m256)a, (__m256i)codes);
         if constexpr (Reach == 1) return (V)low;
         else {
-            const __m256 high = _mm256_permutevar8x32_ps((__m256)load<V>(p + lanes), (__m256i)codes);
+            const __m256 high = _mm256_permutevar8x32_ps((__m256)b, (__m256i)codes);
             if constexpr (sizeof(F) == 4) return (V)_mm256_blendv_ps(low, high, (__m256)_mm256_slli_epi32((__m256i)codes, 28));
             else return (V)_mm256_blendv_pd((__m256d)low, (__m256d)high, (__m256d)_mm256_slli_epi64((__m256i)codes, 28));
         }
 #else
         if constexpr (Reach == 1) return (V)shuffle((Bytes<>)a, (Bytes<>)codes);
         else  // a control byte with its highest bit set gives 0
-            return (V)(shuffle((Bytes<>)a, (Bytes<>)codes + uint8_t(0x70)) |
-                       shuffle((Bytes<>)load<V>(p + lanes), (Bytes<>)codes - uint8_t(16)));
+            return (V)(shuffle((Bytes<>)a, (Bytes<>)codes + uint8_t(0x70)) | shuffle((Bytes<>)b, (Bytes<>)codes - uint8_t(16)));
 #endif
     }
 };
 
 constexpr int kStripSamples = 512, kStripWeightBytes = 12288, kStripRowBytes = 16384;
-// What kernels may read behind a row's last tap.
-constexpr int kRowSlackBytes = 2 * kVectorBytes;
+// What kernels may read behind a row's last tap, and where a row may begin later to be aligned.
+constexpr int kRowSlackBytes = 3 * kVectorBytes;
 
 // A strip of destination columns: for each of its pixels the first tap's place in a row that holds the strip's source
 // columns, and the weights.
@@ -127,12 +138,14 @@ template <class F>
 class Strip {
     using Pick = Picker<F>;
     using V = Vec<F>;
-    static constexpr int lanes = Pick::lanes, weights = kStripWeightBytes / int(sizeof(F));
-    enum class Way { OneVector, TwoVectors, PixelByPixel };
+    static constexpr int lanes = Pick::lanes, capacity = kStripWeightBytes / int(sizeof(F));
+    // Taps are picked from one or two loaded vectors: all of them, or as many as these vectors have.
+    enum class Way { OneLoad, TwoLoads, TwoPerPairOfTaps, TwoPerTap, PixelByPixel };
 
-    alignas(64) F weight_[weights];
+    alignas(64) F weight_[capacity];
     alignas(64) typename Pick::Code code_[kStripSamples + lanes];
     int32_t base_[kStripSamples];  // of each vector's samples, or of each pixel
+    const F* weights_;             // these, or the object's
     int taps_, stride_;            // stride: weights from tap to tap
     Way way_;
 
@@ -144,9 +157,9 @@ public:
     static int pixelsPerStrip(const ResizeSpec& spec, int channels) {
         const ResizeAxis& x = spec.x;
         const int taps = x.taps, rowPixels = (kStripRowBytes - kRowSlackBytes) / int(sizeof(F)) / channels;
-        if (taps > rowPixels || taps > weights / 4) return 0;
+        if (taps > rowPixels || taps > capacity / 4) return 0;
         const int byRow = int((rowPixels - taps) / std::min<double>(x.ratio() + 1, taps)) + 1;
-        const int perTap = weights / taps, byWeights = perTap < 16 ? perTap / 4 * 4 : perTap / 16 * 16 / channels;
+        const int perTap = capacity / taps, byWeights = perTap < 16 ? perTap / 4 * 4 : perTap / 16 * 16 / channels;
         const int n = std::min({byRow, byWeights, kStripSamples / channels});
         return n >= 16 ? n / 16 * 16 : n;
     }
@@ -159,13 +172,20 @@ public:
         sparse = x.ratio() > taps_;
         first = spec.firstTap(x, position);
         last = spec.firstTap(x, position + count - 1) + taps_ - 1;
-        int32_t place[kStripSamples];
-        for (int i = 0; i < count; ++i) place[i] = (sparse ? i * taps_ : spec.firstTap(x, position + i) - first) * C;
+        int32_t place[kStripSamples + lanes];
+        if (sparse) {
+            for (int i = 0; i < count; ++i) place[i] = i * taps_ * C;
+        } else if (x.period == x.destination) {
+            const auto* index = spec.table<int32_t>(x.index) + position;
+            for (int i = 0; i < count; ++i) place[i] = (index[i] - first) * C;
+        } else {
+            for (int i = 0; i < count; ++i) place[i] = (spec.firstTap(x, position + i) - first) * C;
+        }
+        std::fill(place + count, place + count + lanes, place[count - 1]);
         way_ = makeCodes<C>(place);
-        if (taps_ * wholeVectors(pixels * C) > weights) way_ = Way::PixelByPixel;
+        if (taps_ * wholeVectors(pixels * C) > capacity) way_ = Way::PixelByPixel;
         if (way_ == Way::PixelByPixel) {
-            std::copy(place, place + count, base_);
-            for (int i = count; i % 4 != 0; ++i) base_[i] = place[count - 1];
+            std::copy(place, place + (count + 3) / 4 * 4, base_);
             setWeights<1>(spec, position);
         } else {
             setWeights<C>(spec, position);
@@ -176,8 +196,10 @@ public:
     template <int C, class Out>
     void apply(const F* row, Out out) const {
         switch (way_) {
-            case Way::OneVector: return applyVectors<C, 1>(row, out);
-            case Way::TwoVectors: return applyVectors<C, 2>(row, out);
+            case Way::OneLoad: return applyVectors<C, 1, 0>(row, out);
+            case Way::TwoLoads: return applyVectors<C, 2, 0>(row, out);
+            case Way::TwoPerPairOfTaps: return applyVectors<C, 2, 2>(row, out);
+            case Way::TwoPerTap: return applyVectors<C, 2, 1>(row, out);
             case Way::PixelByPixel: break;
         }
         alignas(64) F sums[kStripSamples + 16 / sizeof(F)];
@@ -187,54 +209,120 @@ public:
     }
 
 private:
+    static V pickOne(const void* p, typename Pick::Codes codes) {
+        const V v = load<V>(p);
+        return Pick::template pick<1>(v, v, codes);
+    }
+
     static int wholeVectors(int samples) { return (samples + lanes - 1) / lanes * lanes; }
 
-    // Where each sample's first tap lies, from the lowest of its vector's samples on.
+    // Sample i of a vector that starts at sample s of a row is of pixel s / C + (s % C + i) / C: these steps as codes, and the
+    // channels. Steps stay below 16, so that one vector has all pixels.
+    template <int C>
+    struct Samples {
+        using Words = Vec<uint32_t>;
+        static constexpr int n = kVectorBytes / 4;
+
+        static Words pixelCodes(int phase) { return table([](int phase, int i) { return Picker<float>::code(uint32_t(phase + i) / C); }, phase); }
+        static Words channels(int phase) { return table([](int phase, int i) { return uint32_t(phase + i) % C; }, phase); }
+
+    private:
+        template <class Of>
+        static Words table(Of, int phase) {
+            alignas(64) static constexpr auto entries = [] {
+                std::array<uint32_t, n * C> a{};
+                for (int i = 0; i < n * C; ++i) a[i] = Of{}(i / n, i % n);
+                return a;
+            }();
+            return load<Words>(&entries[phase * n]);
+        }
+    };
+
+    // Where each sample's first tap lies, from the lowest of its vector's samples on. Places do not decrease.
     template <int C>
     Way makeCodes(const int32_t* place) {
         int reach = 0;
         const int samples = pixels * C;
         for (int s = 0; s < samples; s += lanes) {
-            int32_t at[lanes], low = INT32_MAX;
-            const int n = std::min(lanes, samples - s);
-            for (int i = 0; i < n; ++i) {
-                at[i] = place[(s + i) / C] + (s + i) % C;
-                low = std::min(low, at[i]);
+            const int end = std::min(s + lanes, samples) - 1;
+            const auto at = [&](int sample) { return place[sample / C] + sample % C; };
+            int low = at(s), high = at(end);
+            if (C > 1 && end / C > s / C) {
+                low = std::min(low, place[s / C + 1]);
+                high = std::max(high, place[end / C - 1] + C - 1);
             }
-            for (int i = 0; i < lanes; ++i) {
-                const int code = i < n ? at[i] - low : 0;
-                reach = std::max(reach, code);
-                code_[s + i] = Pick::code(uint32_t(code));
-            }
+            reach = std::max(reach, high - low);
             base_[s / lanes] = low;
+            if constexpr (sizeof(F) == 4) {
+                using Words = Vec<uint32_t>;
+                const auto pixel = (Words)pickOne(place + s / C, Samples<C>::pixelCodes(s % C));
+                const Words n = pixel + Samples<C>::channels(s % C) - uint32_t(low);
+                store(code_ + s, Pick::codes(n));
+            } else {
+                for (int i = 0; i < lanes; ++i) code_[s + i] = Pick::code(uint32_t(at(std::min(s + i, end)) - low));
+            }
         }
-        return reach < lanes ? Way::OneVector : reach < 2 * lanes ? Way::TwoVectors : Way::PixelByPixel;
+        const int allTaps = reach + (taps_ - 1) * C;
+        if (allTaps < lanes) return Way::OneLoad;
+        if (allTaps < 2 * lanes) return Way::TwoLoads;
+        if (reach + C < 2 * lanes) return Way::TwoPerPairOfTaps;
+        return reach < 2 * lanes ? Way::TwoPerTap : Way::PixelByPixel;
     }
 
     // Each pixel's weights `Times` times, to the end of a vector.
     template <int Times>
     void setWeights(const ResizeSpec& spec, int position) {
         const ResizeAxis& x = spec.x;
+        const bool periodic = x.period != x.destination;
+        const F* table = spec.table<F>(x.weights) + position;
+        if (Times == 1 && !periodic) {  // what follows the columns' weights in the object may be read with them
+            weights_ = table;
+            stride_ = x.tapStride;
+            return;
+        }
+        weights_ = weight_;
         stride_ = way_ == Way::PixelByPixel ? (pixels + 3) / 4 * 4 : wholeVectors(pixels * Times);
         for (int t = 0; t < taps_; ++t) {
-            F* w = weight_ + t * stride_;
-            for (int i = 0; i < pixels; ++i) {
-                const F value = spec.weight<F>(x, position + i, t);
-                for (int k = 0; k < Times; ++k) w[i * Times + k] = value;
+            F* to = weight_ + t * stride_;
+            if (sizeof(F) == 4 && !periodic) {
+                for (int s = 0; s < stride_; s += lanes)
+                    store(to + s, pickOne(table + ptrdiff_t(t) * x.tapStride + s / Times, (typename Pick::Codes)Samples<Times>::pixelCodes(s % Times)));
+            } else {
+                for (int i = 0; i < pixels; ++i)
+                    std::fill_n(to + i * Times, Times, spec.weight<F>(x, position + i, t));
+                std::fill(to + pixels * Times, to + stride_, F(0));
             }
-            std::fill(w + pixels * Times, w + stride_, F(0));
         }
     }
 
-    template <int C, int Reach, class Out>
+    // TapsPerLoad: how many taps are picked from the vectors at one place, 0 for all.
+    template <int C, int Reach, int TapsPerLoad, class Out>
     void applyVectors(const F* row, Out out) const {
-        const int samples = pixels * C;
-        auto sum = [&](int s) KVRI_INLINE {
-            const F* p = row + base_[s / lanes];
+        switch (taps_) {
+            case 2: return applyTaps<C, Reach, TapsPerLoad, 2>(row, out);
+            case 4: return applyTaps<C, Reach, TapsPerLoad, 4>(row, out);
+            case 6: return applyTaps<C, Reach, TapsPerLoad, 6>(row, out);
+            default: return applyTaps<C, Reach, TapsPerLoad, 0>(row, out);
+        }
+    }
+
+    template <int C, int Reach, int TapsPerLoad, int Taps, class Out>
+    void applyTaps(const F* row, Out out) const {
+        const int samples = pixels * C, taps = Taps > 0 ? Taps : taps_, perLoad = TapsPerLoad > 0 ? TapsPerLoad : taps;
+        const auto sum = [&](int s) KVRI_INLINE {
+            const F *p = row + base_[s / lanes], *w = weights_ + s;
             const auto codes = loadedOnce(load<typename Pick::Codes>(code_ + s));
-            const F* w = weight_ + s;
-            V acc = Pick::template pick<Reach>(p, codes) * load<V>(w);
-            for (int t = 1; t < taps_; ++t) acc = acc + Pick::template pick<Reach>(p + t * C, codes) * load<V>(w + t * stride_);
+            V acc{};
+            const auto pickFrom = [&](int first) KVRI_INLINE {
+                const V a = loadedOnce(load<V>(p + first * C)), b = Reach == 1 ? a : loadedOnce(load<V>(p + first * C + lanes));
+                for (int t = first; t < std::min(first + perLoad, taps); ++t) {
+                    const V product = Pick::template pick<Reach>(a, b, codes + Pick::step((t - first) * C)) * load<V>(w + ptrdiff_t(t) * stride_);
+                    acc = t == 0 ? product : acc + product;
+                }
+            };
+            if constexpr (TapsPerLoad == 0) pickFrom(0);
+            else
+                for (int t = 0; t < taps; t += TapsPerLoad) pickFrom(t);
             return acc;
         };
         int s = 0;
@@ -258,7 +346,7 @@ private:
                 unroll<n>([&](auto j) KVRI_INLINE { tap[j] = load<Q>(row + base_[i + j] + t); });
                 transpose(tap);
                 for (int k = 0; k < n && t + k < taps_; ++k) {
-                    const Q product = tap[k] * load<Q>(weight_ + (t + k) * stride_ + i);
+                    const Q product = tap[k] * load<Q>(weights_ + ptrdiff_t(t + k) * stride_ + i);
                     acc = t + k == 0 ? product : acc + product;
                 }
             }
@@ -283,9 +371,9 @@ private:
         for (int i = 0; i < pixels; ++i) {
             const F* p = row + base_[i];
             Q acc[parts];
-            unroll<parts>([&](auto k) KVRI_INLINE { acc[k] = load<Q>(p + k * n) * splat<Q>(weight_[i]); });
+            unroll<parts>([&](auto k) KVRI_INLINE { acc[k] = load<Q>(p + k * n) * splat<Q>(weights_[i]); });
             for (int t = 1; t < taps_; ++t) {
-                const Q w = splat<Q>(weight_[t * stride_ + i]);
+                const Q w = splat<Q>(weights_[ptrdiff_t(t) * stride_ + i]);
                 unroll<parts>([&](auto k) KVRI_INLINE { acc[k] = acc[k] + load<Q>(p + t * C + k * n) * w; });
             }
             unroll<parts>([&](auto k) KVRI_INLINE { store(sums + i * C + k * n, acc[k]); });

@@ -103,23 +103,24 @@ inline void storeRealsPart(uint8_t* p, Reals<T> v, ptrdiff_t samples) {
     storePart(p, fromReals<T>(v), samples * ptrdiff_t(sizeof(T)));
 }
 
-// Four vectors at once: packing works lane by lane, and one permutation puts all of it in order.
-template <class T>
-inline void storeFourReals(uint8_t* p, const Reals<T> (&v)[4]) {
-    constexpr int lanes = kVectorBytes / 16;
+constexpr int kLanes = kVectorBytes / 16;
+
+// Four vectors at once: packing works lane by lane, and one permutation puts all of it in order. put(place, vector) stores.
+template <class T, class Put>
+inline void putFourReals(uint8_t* p, const Reals<T> (&v)[4], Put put) {
     if constexpr (sizeof(T) == 1) {
         const auto low = narrow<int16_t>(toIntegers(v[0]), toIntegers(v[1])), high = narrow<int16_t>(toIntegers(v[2]), toIntegers(v[3]));
         const auto bytes = narrow<uint8_t>(low, high);
-        if constexpr (lanes == 1) store(p, bytes);
-        else store(p, permute4(bytes, [](int i) { return i % lanes * 4 + i / lanes; }));
+        if constexpr (kLanes == 1) put(p, bytes);
+        else put(p, permute4(bytes, [](int i) { return i % kLanes * 4 + i / kLanes; }));
     } else if constexpr (sizeof(T) == 2) {
-        for (int half = 0; half < 2; ++half) {
+        unroll<2>([&](auto half) KVRI_INLINE {
             const auto words = (Bytes<>)narrow<T>(toIntegers(v[2 * half]), toIntegers(v[2 * half + 1]));
-            if constexpr (lanes == 1) store(p + half * kVectorBytes, words);
-            else store(p + half * kVectorBytes, permute4(words, [](int i) { return (i / 2 % lanes * 2 + i / 2 / lanes) * 2 + i % 2; }));
-        }
+            if constexpr (kLanes == 1) put(p + half * kVectorBytes, words);
+            else put(p + half * kVectorBytes, permute4(words, [](int i) { return (i / 2 % kLanes * 2 + i / 2 / kLanes) * 2 + i % 2; }));
+        });
     } else {
-        for (int i = 0; i < 4; ++i) store(p + i * kVectorBytes, v[i]);
+        unroll<4>([&](auto i) KVRI_INLINE { put(p + i * kVectorBytes, (Bytes<>)v[i]); });
     }
 }
 
@@ -129,9 +130,28 @@ struct RowOf {
     uint8_t* p;
 
     explicit RowOf(void* p) : p(static_cast<uint8_t*>(p)) {}
-    void four(ptrdiff_t i, const Reals<T> (&v)[4]) const { storeFourReals<T>(p + i * ptrdiff_t(sizeof(T)), v); }
-    void one(ptrdiff_t i, Reals<T> v) const { storeReals<T>(p + i * ptrdiff_t(sizeof(T)), v); }
-    void part(ptrdiff_t i, Reals<T> v, ptrdiff_t samples) const { storeRealsPart<T>(p + i * ptrdiff_t(sizeof(T)), v, samples); }
+    // Samples that are to be written before groups of four vectors.
+    static ptrdiff_t head() { return 0; }
+    void four(ptrdiff_t i, const Reals<T> (&v)[4]) const { putFourReals<T>(at(i), v, [](uint8_t* p, auto v) KVRI_INLINE { store(p, v); }); }
+    void one(ptrdiff_t i, Reals<T> v) const { storeReals<T>(at(i), v); }
+    void part(ptrdiff_t i, Reals<T> v, ptrdiff_t samples) const { storeRealsPart<T>(at(i), v, samples); }
+
+protected:
+    uint8_t* at(ptrdiff_t i) const { return p + i * ptrdiff_t(sizeof(T)); }
+};
+
+// The same by aligned vectors; p is a multiple of the sample's size.
+template <class T>
+struct AlignedRowOf : RowOf<T> {
+    using RowOf<T>::RowOf;
+    ptrdiff_t head() const { return (-reinterpret_cast<intptr_t>(this->p) & (kVectorBytes - 1)) / ptrdiff_t(sizeof(T)); }
+};
+
+// The same past the caches.
+template <class T>
+struct StreamedRowOf : AlignedRowOf<T> {
+    using AlignedRowOf<T>::AlignedRowOf;
+    void four(ptrdiff_t i, const Reals<T> (&v)[4]) const { putFourReals<T>(this->at(i), v, [](uint8_t* p, auto v) KVRI_INLINE { stream(p, v); }); }
 };
 
 }  // namespace kvri
