@@ -1,20 +1,8 @@
 #include "bench.h"
 
-#include <iomanip>
-#include <sstream>
-
 #include "table.h"
 
 namespace demo {
-namespace {
-
-std::string decimal(double value, int places) {
-    std::ostringstream text;
-    text << std::fixed << std::setprecision(places) << value;
-    return text.str();
-}
-
-}  // namespace
 
 void Bench::print(std::ostream& to) const {
     Table table({{"step"}, {"function"}, {"size", Column::Right}, {"ms", Column::Right}, {"GB/s", Column::Right}});

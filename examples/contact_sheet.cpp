@@ -8,18 +8,12 @@ namespace demo {
 namespace {
 
 constexpr Kvr8u kPaper = 28;
-constexpr int kColumns = 3, kMargin = 20, kTitleHeight = 44, kCaptionHeight = 48;
-constexpr KvriSize kCell{480, 270};
+constexpr int kMargin = 20, kTitleHeight = 44, kCaptionHeight = 48;
 
-KvriSize pageSize(int pictures) {
-    const int rows = (pictures + kColumns - 1) / kColumns;
-    return {kMargin + kColumns * (kCell.width + kMargin),
-            kMargin + kTitleHeight + rows * (kCell.height + kCaptionHeight + kMargin)};
-}
-
-KvriPoint placeOf(int index) {
-    return {kMargin + index % kColumns * (kCell.width + kMargin),
-            kMargin + kTitleHeight + index / kColumns * (kCell.height + kCaptionHeight + kMargin)};
+KvriSize pageSize(int pictures, const SheetLayout& layout) {
+    const int rows = (pictures + layout.columns - 1) / layout.columns;
+    return {kMargin + layout.columns * (layout.cell.width + kMargin),
+            kMargin + kTitleHeight + rows * (layout.cell.height + kCaptionHeight + kMargin)};
 }
 
 Grey paper(KvriSize size) {
@@ -40,24 +34,40 @@ void paste(const Rgba& image, Rgb& page, KvriPoint at) { paste(overChequers(imag
 
 }  // namespace
 
-ContactSheet::ContactSheet(const std::string& title, int pictures) : page_(toRgb(paper(pageSize(pictures)))) {
+ContactSheet::ContactSheet(const std::string& title, int pictures, const SheetLayout& layout)
+    : layout_(layout), page_(toRgb(paper(pageSize(pictures, layout)))) {
     Grey heading = paper({page_.size().width - 2 * kMargin, kTitleHeight});
     drawText(heading, {0, 26}, 24, 1, title);
     paste(heading, page_, {kMargin, kMargin});
 }
 
-void ContactSheet::add(const AnyImage& image, const std::string& caption, const std::string& details) {
-    const KvriPoint place = placeOf(count_++);
-    std::visit(
-        [&](const auto& picture) {
-            const auto small = thumbnail(picture, kCell);
-            paste(small, page_, {place.x, place.y + (kCell.height - small.size().height) / 2});
-        },
-        image);
-    Grey text = paper({kCell.width, kCaptionHeight});
+KvriPoint ContactSheet::nextPlace() {
+    const int column = count_ % layout_.columns, row = count_ / layout_.columns;
+    ++count_;
+    return {kMargin + column * (layout_.cell.width + kMargin),
+            kMargin + kTitleHeight + row * (layout_.cell.height + kCaptionHeight + kMargin)};
+}
+
+void ContactSheet::addCaption(KvriPoint place, const std::string& caption, const std::string& details) {
+    Grey text = paper({layout_.cell.width, kCaptionHeight});
     drawText(text, {0, 22}, 16, 0.95, caption);
     drawText(text, {0, 42}, 13, 0.55, details);
-    paste(text, page_, {place.x, place.y + kCell.height});
+    paste(text, page_, {place.x, place.y + layout_.cell.height});
+}
+
+void ContactSheet::add(const AnyImage& image, const std::string& caption, const std::string& details) {
+    const KvriPoint place = nextPlace();
+    std::visit(
+        [&](const auto& picture) {
+            const auto small = thumbnail(picture, layout_.cell);
+            paste(small, page_, {place.x, place.y + (layout_.cell.height - small.size().height) / 2});
+        },
+        image);
+    addCaption(place, caption, details);
+}
+
+void ContactSheet::addMissing(const std::string& caption, const std::string& details) {
+    addCaption(nextPlace(), caption, details);
 }
 
 }  // namespace demo

@@ -1,10 +1,13 @@
-// examples/image_io.h: PNG and JPEG files.
+// examples/image_io.h: PNG and JPEG files, row by row or as a whole.
 #pragma once
 
 #include <filesystem>
+#include <memory>
 #include <stdexcept>
 
 #include "image.h"
+#include "png_rows.h"
+#include "rows.h"
 
 namespace demo {
 
@@ -16,11 +19,15 @@ struct OutputError : std::runtime_error {
     using std::runtime_error::runtime_error;
 };
 
-// The kind of file is told by its contents. Samples of fewer than 8 bits and palettes are expanded, 16 bits are reduced
-// to 8; grey with alpha becomes RGBA. A damaged file is refused, even where a part of it could be shown.
-AnyImage readImage(const std::filesystem::path& path);
+// The kind of file is told by its contents. A damaged file is refused, even where a part of it could be shown.
+std::unique_ptr<RowReader> openPicture(const std::filesystem::path& path, Depth depth);
 
-// The kind of file is told by the extension: .png, .jpg or .jpeg. JPEG holds no alpha.
+// The kind of file is told by the extension: .png, .jpg or .jpeg. The file appears with finish().
+std::unique_ptr<RowWriter> createPicture(const std::filesystem::path& path, const PictureInfo& info);
+
+// Whole pictures of 8-bit samples.
+AnyImage readAll(RowReader& rows);
+AnyImage readImage(const std::filesystem::path& path);
 void writeImage(const std::filesystem::path& path, const AnyImage& image);
 
 }  // namespace demo

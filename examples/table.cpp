@@ -3,8 +3,15 @@
 #include <algorithm>
 #include <iomanip>
 #include <ostream>
+#include <sstream>
 
 namespace demo {
+
+std::string decimal(double value, int places) {
+    std::ostringstream text;
+    text << std::fixed << std::setprecision(places) << value;
+    return text.str();
+}
 
 size_t Table::widthOf(size_t column) const {
     size_t width = columns_[column].title.size();

@@ -7,6 +7,9 @@
 
 namespace demo {
 
+// A number with this many decimal places.
+std::string decimal(double value, int places);
+
 struct Column {
     std::string title;
     enum { Left, Right } alignment = Left;

@@ -3,7 +3,7 @@
 
 # Of the example programs: arguments, image files, labels, photographs.
 # shellcheck disable=SC2034
-example_packages=(libcli11-dev libpng-dev libturbojpeg0-dev libcairo2-dev fonts-dejavu-core lomiri-wallpapers-16.04)
+example_packages=(libcli11-dev libpng-dev libjpeg-dev libturbojpeg0-dev libcairo2-dev fonts-dejavu-core lomiri-wallpapers-16.04)
 
 # need_packages PACKAGE... - installs those that are missing, and is quick and silent where none is.
 need_packages() {

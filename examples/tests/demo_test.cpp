@@ -34,15 +34,7 @@ Bytes changed(Change change) {
     return samples;
 }
 
-void expectSuccess(const Outcome& outcome) {
-    EXPECT_EQ(outcome.exitCode, 0) << outcome.error;
-    EXPECT_EQ(outcome.error, "");
-}
-
-void expectFailure(const Outcome& outcome, int code, const std::string& message) {
-    EXPECT_EQ(outcome.exitCode, code) << outcome.out;
-    EXPECT_CONTAINS(outcome.error, message);
-}
+Outcome run(const Folder& folder, const std::vector<std::string>& arguments) { return test::run(KVRI_DEMO, folder, arguments); }
 
 // Steps make what they say: the pictures of a PNG, whose pixels are known.
 class Pictures : public testing::Test {

@@ -2,11 +2,12 @@
 
 #include <png.h>
 #include <stdlib.h>
+#include <sys/resource.h>
 #include <sys/wait.h>
 #include <turbojpeg.h>
+#include <unistd.h>
 
 #include <algorithm>
-#include <cstdlib>
 #include <fstream>
 #include <iterator>
 
@@ -51,16 +52,26 @@ void makePng(const fs::path& path, KvriSize size, const PngKind& kind, Bytes sam
     std::fclose(file);
 }
 
-Bytes decodePng(const fs::path& path, KvriSize size, int channels) {
-    png_image image{};
-    image.version = PNG_IMAGE_VERSION;
-    const png_uint_32 format = channels == 1 ? PNG_FORMAT_GRAY : channels == 3 ? PNG_FORMAT_RGB : PNG_FORMAT_RGBA;
-    EXPECT_TRUE(png_image_begin_read_from_file(&image, path.c_str())) << path << image.message;
-    EXPECT_EQ(image.format, format) << path;
-    EXPECT_EQ(int(image.width), size.width) << path;
-    EXPECT_EQ(int(image.height), size.height) << path;
-    Bytes samples(PNG_IMAGE_SIZE(image));
-    EXPECT_TRUE(png_image_finish_read(&image, nullptr, samples.data(), 0, nullptr)) << path << image.message;
+Bytes decodePng(const fs::path& path, KvriSize size, int channels, int bits) {
+    const int colourType = channels == 1 ? PNG_COLOR_TYPE_GRAY : channels == 3 ? PNG_COLOR_TYPE_RGB : PNG_COLOR_TYPE_RGBA;
+    png_structp png = png_create_read_struct(PNG_LIBPNG_VER_STRING, nullptr, nullptr, nullptr);
+    png_infop info = png_create_info_struct(png);
+    FILE* file = std::fopen(path.c_str(), "rb");
+    EXPECT_TRUE(file) << path;
+    if (!file) return {};
+    png_init_io(png, file);
+    png_read_png(png, info, PNG_TRANSFORM_IDENTITY, nullptr);
+    EXPECT_EQ(png_get_color_type(png, info), colourType) << path;
+    EXPECT_EQ(png_get_bit_depth(png, info), bits) << path;
+    EXPECT_EQ(int(png_get_image_width(png, info)), size.width) << path;
+    EXPECT_EQ(int(png_get_image_height(png, info)), size.height) << path;
+    Bytes samples;
+    for (png_uint_32 y = 0; y < png_get_image_height(png, info); ++y) {
+        png_const_bytep row = png_get_rows(png, info)[y];
+        samples.insert(samples.end(), row, row + png_get_rowbytes(png, info));
+    }
+    png_destroy_read_struct(&png, &info, nullptr);
+    std::fclose(file);
     return samples;
 }
 
@@ -104,16 +115,44 @@ void expectNear(const Bytes& actual, const Bytes& expected, int tolerance) {
     for (size_t i = 0; i < actual.size(); ++i) ASSERT_NEAR(actual[i], expected[i], tolerance) << "sample " << i;
 }
 
-Outcome run(const Folder& folder, const std::vector<std::string>& arguments) {
-    const fs::path out = folder / "stdout", error = folder / "stderr";
-    std::string command = "cd '" + folder.path().string() + "' && '" KVRI_DEMO "'";
-    for (const std::string& a : arguments) command += " '" + a + "'";
-    const int status = std::system((command + " >'" + out.string() + "' 2>'" + error.string() + "'").c_str());
-    const auto text = [](const fs::path& path) {
-        const Bytes bytes = load(path);
-        return std::string(bytes.begin(), bytes.end());
-    };
-    return {WIFEXITED(status) ? WEXITSTATUS(status) : -1, text(out), text(error)};
+namespace {
+
+[[noreturn]] void execute(const char* program, const Folder& folder, const std::vector<std::string>& arguments, const fs::path& out,
+                          const fs::path& error) {
+    std::vector<char*> argv{const_cast<char*>(program)};
+    for (const std::string& a : arguments) argv.push_back(const_cast<char*>(a.c_str()));
+    argv.push_back(nullptr);
+    if (std::freopen(out.c_str(), "w", stdout) && std::freopen(error.c_str(), "w", stderr) && chdir(folder.path().c_str()) == 0)
+        execv(program, argv.data());
+    _exit(127);
+}
+
+std::string text(const fs::path& path) {
+    const Bytes bytes = load(path);
+    return {bytes.begin(), bytes.end()};
+}
+
+}  // namespace
+
+Outcome run(const char* program, const Folder& folder, const std::vector<std::string>& arguments) {
+    const Folder reports;
+    const fs::path out = reports / "out", error = reports / "error";
+    const pid_t child = fork();
+    if (child == 0) execute(program, folder, arguments, out, error);
+    int status = 0;
+    rusage usage{};
+    wait4(child, &status, 0, &usage);
+    return {WIFEXITED(status) ? WEXITSTATUS(status) : -1, text(out), text(error), usage.ru_maxrss};
+}
+
+void expectSuccess(const Outcome& outcome) {
+    EXPECT_EQ(outcome.exitCode, 0) << outcome.error;
+    EXPECT_EQ(outcome.error, "");
+}
+
+void expectFailure(const Outcome& outcome, int code, const std::string& message) {
+    EXPECT_EQ(outcome.exitCode, code) << outcome.out;
+    EXPECT_CONTAINS(outcome.error, message);
 }
 
 }  // namespace test

@@ -40,7 +40,7 @@ struct PngKind {
     std::vector<unsigned char> paletteAlpha = {};   // of the first entries
 };
 void makePng(const std::filesystem::path& path, KvriSize size, const PngKind& kind, Bytes samples);
-Bytes decodePng(const std::filesystem::path& path, KvriSize size, int channels);
+Bytes decodePng(const std::filesystem::path& path, KvriSize size, int channels, int bits = 8);
 void makeJpeg(const std::filesystem::path& path, KvriSize size, int pixelFormat, const Bytes& samples);
 Bytes decodeJpeg(const std::filesystem::path& path, KvriSize size, int pixelFormat);
 
@@ -74,8 +74,12 @@ void expectNear(const Bytes& actual, const Bytes& expected, int tolerance);
 struct Outcome {
     int exitCode;
     std::string out, error;
+    long kilobytes;  // of memory, at most
 };
-// Runs the program in the given folder.
-Outcome run(const Folder& folder, const std::vector<std::string>& arguments);
+// Runs a program in the given folder.
+Outcome run(const char* program, const Folder& folder, const std::vector<std::string>& arguments);
+
+void expectSuccess(const Outcome& outcome);
+void expectFailure(const Outcome& outcome, int code, const std::string& message);
 
 }  // namespace test
