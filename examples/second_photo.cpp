@@ -1,9 +1,9 @@
 #include "second_photo.h"
 
 #include <algorithm>
-#include <vector>
 
 #include "image_io.h"
+#include "resizer.h"
 
 namespace demo {
 namespace {
@@ -29,17 +29,10 @@ Rgb secondPhoto(const Rgb& photo) {
     const KvriSize size = photo.size(), part = partLike(whole.size(), size);
     const Kvr8u* from = whole.at((whole.size().width - part.width) / 2, (whole.size().height - part.height) / 2);
 
-    int specBytes = 0, initBytes = 0, bufferBytes = 0;
-    KVRI_CALL(kvriResizeGetSize_8u)(part, size, kvrInterpLinear, 1, &specBytes, &initBytes);
-    std::vector<Kvr8u> specMemory(static_cast<size_t>(specBytes)), init(static_cast<size_t>(initBytes));
-    auto* spec = reinterpret_cast<KvriResizeSpec*>(specMemory.data());
-    KVRI_CALL(kvriResizeAntialiasingLinearInit)(part, size, spec, init.data());
-    KVRI_CALL(kvriResizeGetBufferSize_8u)(spec, size, 3, &bufferBytes);
-    std::vector<Kvr8u> buffer(static_cast<size_t>(bufferBytes));
-
+    const Resizer resizer(methodOf("aa-linear"), {}, PixelKind{Rgb::kChannels, 8}, part, size);
+    Bytes buffer(resizer.bufferBytes(size));
     Rgb result(size);
-    KVRI_CALL(kvriResizeAntialiasing_8u_C3R)(from, whole.step(), result.data(), result.step(), KvriPoint{0, 0}, size, kvrBorderRepl,
-                                             nullptr, spec, buffer.data());
+    resizer.apply(ConstRows{from, whole.step(), 0}, Rows{result.data(), result.step(), 0}, {0, 0, size.width, size.height}, buffer.data());
     return result;
 }
 
