@@ -152,12 +152,7 @@ struct RightByEach<T, 2> {
     }
 };
 
-template <class T>
-struct LeftByEach<T, 4> {
-    using Sample = T;
-    static constexpr int unrolled = 4;
-    using V = Vec<T>;
-    V operator()(V count, V v) const { return shiftLeft(v, count); }
+struct CountsThemselves {
     template <class L>
     static auto patterns(const Kvr32u* count) {
         return std::make_tuple(pattern<L>(count));
@@ -165,15 +160,19 @@ struct LeftByEach<T, 4> {
 };
 
 template <class T>
-struct RightByEach<T, 4> {
+struct LeftByEach<T, 4> : CountsThemselves {
+    using Sample = T;
+    static constexpr int unrolled = 4;
+    using V = Vec<T>;
+    V operator()(V count, V v) const { return shiftLeft(v, count); }
+};
+
+template <class T>
+struct RightByEach<T, 4> : CountsThemselves {
     using Sample = T;
     static constexpr int unrolled = 4;
     using V = Vec<T>;
     V operator()(V count, V v) const { return shiftRight(v, count); }
-    template <class L>
-    static auto patterns(const Kvr32u* count) {
-        return std::make_tuple(pattern<L>(count));
-    }
 };
 
 template <template <class> class ByAll, template <class, int> class ByEach>

@@ -1,6 +1,7 @@
 // pointops/threshold_otsu.cpp: ComputeThreshold_Otsu.
 #include "core/check.h"
 #include "core/dispatch.h"
+#include "core/fpcontrol.h"
 #include "core/rows.h"
 #include "core/simd.h"
 #include "kvri/pointops.h"
@@ -93,6 +94,7 @@ Kvr8u otsu(const int64_t* count, double pixels) {
 KvrStatus computeThreshold(const Kvr8u* pSrc, int srcStep, KvriSize roi, Kvr8u* pThreshold) {
     if (KvrStatus e = firstError(nonNull(pSrc, pThreshold), hasPixels(roi))) return e;
     if (srcStep < roi.width) return kvrStatusBadStep;
+    const DefaultFloatControl control;
     LevelCounts counts;
     eachRow(roi, [&](auto row, ptrdiff_t pixels) KVRI_INLINE { counts.count(row, pixels); }, source<1>(pSrc, srcStep));
     *pThreshold = otsu(counts.total(), double(roi.width) * roi.height);
