@@ -211,6 +211,7 @@ bool comparingPays(const Curve<T> (&curves)[L::colours], KvriSize roi) {
 
 template <class Family, class T, class L>
 void lut(const Curve<T> (&curves)[L::colours], const Images& images) {
+    const DefaultFloatControl control;  // integers do not depend on the caller's
     if constexpr (std::is_same_v<T, Kvr32f>) {
         Family::template mapFloats<L>(curves, images);
     } else if constexpr (std::is_same_v<T, Kvr8u>) {
