@@ -196,10 +196,10 @@ public:
     template <int C, class Out>
     void apply(const F* row, Out out) const {
         switch (way_) {
-            case Way::OneLoad: return applyVectors<C, 1, 0>(row, out);
-            case Way::TwoLoads: return applyVectors<C, 2, 0>(row, out);
-            case Way::TwoPerPairOfTaps: return applyVectors<C, 2, 2>(row, out);
-            case Way::TwoPerTap: return applyVectors<C, 2, 1>(row, out);
+            case Way::OneLoad: return applyVectors<1, 0>(row, pixels * C, C, out);
+            case Way::TwoLoads: return applyVectors<2, 0>(row, pixels * C, C, out);
+            case Way::TwoPerPairOfTaps: return applyVectors<2, 2>(row, pixels * C, C, out);
+            case Way::TwoPerTap: return applyVectors<2, 1>(row, pixels * C, C, out);
             case Way::PixelByPixel: break;
         }
         alignas(64) F sums[kStripSamples + 16 / sizeof(F)];
@@ -296,27 +296,30 @@ private:
     }
 
     // TapsPerLoad: how many taps are picked from the vectors at one place, 0 for all.
-    template <int C, int Reach, int TapsPerLoad, class Out>
-    void applyVectors(const F* row, Out out) const {
+    template <int Reach, int TapsPerLoad, class Out>
+    void applyVectors(const F* row, int samples, int tapStep, Out out) const {
         switch (taps_) {
-            case 2: return applyTaps<C, Reach, TapsPerLoad, 2>(row, out);
-            case 4: return applyTaps<C, Reach, TapsPerLoad, 4>(row, out);
-            case 6: return applyTaps<C, Reach, TapsPerLoad, 6>(row, out);
-            default: return applyTaps<C, Reach, TapsPerLoad, 0>(row, out);
+            case 2: return applyTaps<Reach, TapsPerLoad, 2>(row, samples, tapStep, out);
+            case 4: return applyTaps<Reach, TapsPerLoad, 4>(row, samples, tapStep, out);
+            case 6: return applyTaps<Reach, TapsPerLoad, 6>(row, samples, tapStep, out);
+            default: return applyTaps<Reach, TapsPerLoad, 0>(row, samples, tapStep, out);
         }
     }
 
-    template <int C, int Reach, int TapsPerLoad, int Taps, class Out>
-    void applyTaps(const F* row, Out out) const {
-        const int samples = pixels * C, taps = Taps > 0 ? Taps : taps_, perLoad = TapsPerLoad > 0 ? TapsPerLoad : taps;
+    template <int Reach, int TapsPerLoad, int Taps, class Out>
+    void applyTaps(const F* row, int samples, int tapStep, Out out) const {
+        using Codes = typename Pick::Codes;
+        const Codes next = splat<Codes>(Pick::step(tapStep));
+        const int taps = Taps > 0 ? Taps : taps_, perLoad = TapsPerLoad > 0 ? TapsPerLoad : taps;
         const auto sum = [&](int s) KVRI_INLINE {
             const F *p = row + base_[s / lanes], *w = weights_ + s;
-            const auto codes = loadedOnce(load<typename Pick::Codes>(code_ + s));
+            const auto begin = loadedOnce(load<Codes>(code_ + s));
             V acc{};
             const auto pickFrom = [&](int first) KVRI_INLINE {
-                const V a = loadedOnce(load<V>(p + first * C)), b = Reach == 1 ? a : loadedOnce(load<V>(p + first * C + lanes));
-                for (int t = first; t < std::min(first + perLoad, taps); ++t) {
-                    const V product = Pick::template pick<Reach>(a, b, codes + Pick::step((t - first) * C)) * load<V>(w + ptrdiff_t(t) * stride_);
+                const V a = loadedOnce(load<V>(p + first * tapStep)), b = Reach == 1 ? a : loadedOnce(load<V>(p + first * tapStep + lanes));
+                Codes codes = begin;
+                for (int t = first; t < std::min(first + perLoad, taps); ++t, codes += next) {
+                    const V product = Pick::template pick<Reach>(a, b, codes) * load<V>(w + ptrdiff_t(t) * stride_);
                     acc = t == 0 ? product : acc + product;
                 }
             };
