@@ -150,44 +150,41 @@ template <class Op>
     requires requires { Op::grouped; }
 constexpr int kGrouped<Op> = Op::grouped;
 
-// Samples until p is aligned for streaming; -1 where that never happens.
-template <class T>
-ptrdiff_t samplesToAlignment(const uint8_t* p) {
-    const ptrdiff_t bytes = -reinterpret_cast<intptr_t>(p) & (kVectorBytes - 1);
-    return bytes % sizeof(T) == 0 ? bytes / ptrdiff_t(sizeof(T)) : -1;
-}
-
+// Samples [0, head) are fewer than a block; behind them whole blocks may need an aligned destination.
 template <bool Alpha, class Block, class Op>
-KVRI_INLINE inline void convertRow(const Op& op, const uint8_t* src, uint8_t* dst, ptrdiff_t first, ptrdiff_t samples) {
+KVRI_INLINE inline void convertRow(const Op& op, const uint8_t* src, uint8_t* dst, ptrdiff_t head, ptrdiff_t samples) {
     using Unit = ConversionStep<Op, Alpha, 1>;
     constexpr int units = std::max(1, kGrouped<Op> / Unit::works);
     const ConversionStep<Op, Alpha, units> group(op, src, dst);
     const Unit unit(op, src, dst);
-    if (first > 0) unit(LastBlock{}, 0, first);
-    for (; samples - first >= group.samples; first += group.samples) group(Block{}, first, group.samples);
-    if constexpr (units > 1)
-        for (; samples - first >= unit.samples; first += unit.samples) unit(Block{}, first, unit.samples);
-    if (first < samples) unit(LastBlock{}, first, samples - first);
+    for (ptrdiff_t first = 0, end = head > 0 ? head : samples;; end = samples) {
+        for (; end - first >= group.samples; first += group.samples) group(Block{}, first, group.samples);
+        if constexpr (units > 1)
+            for (; end - first >= unit.samples; first += unit.samples) unit(Block{}, first, unit.samples);
+        if (first < end) unit(LastBlock{}, first, end - first);
+        if (end == samples) return;
+        first = end;
+    }
 }
 
 template <bool Alpha, class Op>
 void convertRows(const Op& conversion, const void* pSrc, int srcStep, void* pDst, int dstStep, KvriSize roi, int channels) {
     const Op op = conversion;  // bytes that are stored might alias its constants, but no local copy's
-    using T = typename Op::Target;
-    constexpr int srcBytes = sizeof(typename Op::Source), dstBytes = sizeof(T);
+    constexpr int srcBytes = sizeof(typename Op::Source), dstBytes = sizeof(typename Op::Target);
     const auto src = source(pSrc, srcStep, srcBytes * channels);
     const auto dst = destination(pDst, dstStep, dstBytes * channels);
-    if constexpr (!Alpha)
-        if (exceedsCache(roi, (srcBytes + dstBytes) * channels) && pSrc != pDst) {
-            eachRow(roi, [&](auto s, auto d, ptrdiff_t pixels) KVRI_INLINE {
-                const ptrdiff_t samples = pixels * channels, head = samplesToAlignment<T>(d);
-                if (head < 0) convertRow<Alpha, WholeBlock>(op, s, d, 0, samples);
-                else convertRow<Alpha, StreamedBlock>(op, s, d, std::min(head, samples), samples);
-            }, src, dst);
-            return fenceStreams();
-        }
-    eachRow(roi, [&](auto s, auto d, ptrdiff_t pixels) KVRI_INLINE { convertRow<Alpha, WholeBlock>(op, s, d, 0, pixels * channels); },
-            src, dst);
+    const bool reachesAlignment = (reinterpret_cast<uintptr_t>(pDst) | unsigned(dstStep)) % dstBytes == 0;
+    if (!Alpha && reachesAlignment && pSrc != pDst && exceedsCache(roi, (srcBytes + dstBytes) * channels)) {
+        eachRow(roi, [&](auto s, auto d, ptrdiff_t pixels) KVRI_INLINE {
+            const ptrdiff_t samples = pixels * channels, head = (-reinterpret_cast<intptr_t>(d) & (kVectorBytes - 1)) / dstBytes;
+            if constexpr (!Alpha) convertRow<Alpha, StreamedBlock>(op, s, d, std::min(head, samples), samples);
+        }, src, dst);
+        fenceStreams();
+    } else {
+        eachRow(roi, [&](auto s, auto d, ptrdiff_t pixels) KVRI_INLINE {
+            convertRow<Alpha, WholeBlock>(op, s, d, 0, pixels * channels);
+        }, src, dst);
+    }
 }
 
 // Every sample of an image, or the colours of every pixel.

@@ -266,6 +266,20 @@ TEST(Convert, ReadsBitsFromTheHighestOn) {
     EXPECT_EQ(0, std::memcmp(dst, fromThird, 8));
 }
 
+TEST(Convert, ReadsOnlyTheBytesThatHoldTheRowsBits) {
+    for (int width : {1, 8, 56, 63, 64, 65, 128, 192})
+        for (int offset = 0; offset < 17; ++offset) {
+            const int bytes = (offset % 8 + width + 7) / 8;
+            for (Edge edge : {Edge::Begin, Edge::End}) {
+                TestImage src(bytes, 1, bytes, edge);
+                std::memset(src.roi, 0xFF, size_t(bytes));
+                std::vector<Kvr8u> dst(size_t(width), 0);
+                ASSERT_EQ(kvriConvert_1u8u_C1R(src.roi - offset / 8, bytes, offset, dst.data(), width, {width, 1}), kvrStatusOk);
+                ASSERT_EQ(dst, std::vector<Kvr8u>(size_t(width), 255));
+            }
+        }
+}
+
 // Every combination of faults gives the status of the one that is checked first, and nothing is written.
 TEST(Convert, ChecksInTheOrderOfEachFunction) {
     struct Fault {
