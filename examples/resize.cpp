@@ -9,6 +9,7 @@
 
 #include "compare.h"
 #include "image_io.h"
+#include "program.h"
 #include "progress.h"
 #include "resizer.h"
 #include "strips.h"
@@ -19,8 +20,6 @@ namespace {
 
 using namespace demo;
 namespace fs = std::filesystem;
-
-enum ExitCode { kSuccess = 0, kUsage = 1, kInput = 2, kOutput = 3, kFailure = 4 };
 
 struct Options {
     std::vector<fs::path> files;
@@ -35,8 +34,6 @@ struct Options {
 struct Job {
     fs::path from, to;
 };
-
-std::string libraryVersion() { return std::string("kvri ") + kvriGetLibVersion()->version; }
 
 // ---- the command line
 
