@@ -8,6 +8,7 @@
 #include "contact_sheet.h"
 #include "convert.h"
 #include "image_io.h"
+#include "program.h"
 #include "progress.h"
 #include "steps.h"
 
@@ -15,8 +16,6 @@ namespace {
 
 using namespace demo;
 namespace fs = std::filesystem;
-
-enum ExitCode { kSuccess = 0, kUsage = 1, kInput = 2, kOutput = 3, kFailure = 4 };
 
 const fs::path kDefaultPhoto = "/usr/share/backgrounds/seeding_by_Clements_Engelhardt.jpg";
 constexpr const char* kDefaultPhotoCredit = "photograph by Clements Engelhardt, CC0";
@@ -27,8 +26,6 @@ struct Options {
     int repeats = 5;
     bool progress = false;
 };
-
-std::string libraryVersion() { return std::string("kvri ") + kvriGetLibVersion()->version; }
 
 void declare(CLI::App& app, Options& options) {
     app.add_option("photo", options.photo, "PNG or JPEG; where none is given, a photograph of the package " +

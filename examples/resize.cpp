@@ -9,6 +9,7 @@
 
 #include "compare.h"
 #include "image_io.h"
+#include "program.h"
 #include "progress.h"
 #include "resizer.h"
 #include "strips.h"
@@ -19,8 +20,6 @@ namespace {
 
 using namespace demo;
 namespace fs = std::filesystem;
-
-enum ExitCode { kSuccess = 0, kUsage = 1, kInput = 2, kOutput = 3, kFailure = 4 };
 
 struct Options {
     std::vector<fs::path> files;
@@ -35,8 +34,6 @@ struct Options {
 struct Job {
     fs::path from, to;
 };
-
-std::string libraryVersion() { return std::string("kvri ") + kvriGetLibVersion()->version; }
 
 // ---- the command line
 
@@ -62,7 +59,10 @@ void declare(CLI::App& app, Options& options) {
     const char* const kSizes = "Size of the result, one of";
     addSize(app, "--size", options.size, "width and height")->group(kSizes);
     addSize(app, "--fit", options.fit, "the largest size within these that keeps the proportions")->group(kSizes);
-    app.add_option("--scale", options.scale, "factor on width and height")->type_name("F")->check(CLI::PositiveNumber)->group(kSizes);
+    app.add_option("--scale", options.scale, "factor on width and height")
+        ->type_name("F")
+        ->check(CLI::PositiveNumber)
+        ->group(kSizes);
 
     std::vector<std::string> names;
     for (const Method& method : methods()) names.push_back(method.name);
@@ -73,7 +73,9 @@ void declare(CLI::App& app, Options& options) {
     app.add_option("--c", options.cubic.c, "C of the cubic methods")->capture_default_str();
     app.add_flag("--compare", options.compare, "write one sheet that shows what every method makes of the picture");
     addSize(app, "--zone-plate", options.zonePlate, "take a test picture of this size, rings of every fineness, in place of IN");
-    app.add_option("--threads", options.tiling.threads, "that share the work")->check(CLI::Range(1, 1024))->option_text("N=" + std::to_string(options.tiling.threads));
+    app.add_option("--threads", options.tiling.threads, "that share the work")
+        ->check(CLI::Range(1, 1024))
+        ->option_text("N=" + std::to_string(options.tiling.threads));
     addSize(app, "--tile", options.tiling.tile, "cut the work into tiles of this size");
     app.add_flag("--progress", options.progress, "report progress even where stderr is no terminal");
     app.set_version_flag("--version", libraryVersion());
