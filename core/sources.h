@@ -60,7 +60,7 @@ private:
 };
 
 // Calls step(block, first pixel, vector number j as a constant, bytes of the row from that vector on) for every vector.
-template <int B, int Vectors, int LastPixel, int Unrolled = Vectors == 1 ? 4 : 2, class Step>
+template <int B, int Vectors, int LastPixel, int Unrolled = 2, class Step>
 KVRI_INLINE inline void forEachVector(ptrdiff_t pixels, Step step) {
     forEachBlock<Vectors * kVectorBytes / B, LastPixel != B, Unrolled>(pixels, [&](auto block, ptrdiff_t first, ptrdiff_t n) KVRI_INLINE {
         unroll<Vectors>([&](auto j) KVRI_INLINE { step(block, first, j, (n - 1) * B + LastPixel - j * kVectorBytes); });

@@ -49,21 +49,22 @@ AnyImage wrappedBorder(const Rgb& photo, Bench& bench) {
     });
 }
 
+AnyImage transposed(const Rgb& photo, Bench& bench) {
+    Rgb result({photo.size().height, photo.size().width});
+    bench.time("transpose", photo.size(), 6, KVRI_CALL(kvriTranspose_8u_C3R), photo.data(), photo.step(), result.data(),
+               result.step(), photo.size());
+    return result;
+}
+
 template <KvriAxis axis>
 AnyImage mirrored(const Rgb& photo, Bench& bench) {
     constexpr const char* kNames[] = {"mirror, horizontal axis", "mirror, vertical axis", "mirror, both axes",
                                       "mirror, main diagonal", "mirror, other diagonal"};
     const KvriSize size = photo.size();
     constexpr bool kTurned = axis == kvrAxisMainDiagonal || axis == kvrAxisAntiDiagonal;
+    if (size.width < 2 || size.height < 2) return kTurned ? transposed(photo, bench) : framed(photo, [](auto&...) {});
     Rgb result(kTurned ? KvriSize{size.height, size.width} : size);
     bench.time(kNames[axis], size, 6, KVRI_CALL(kvriMirror_8u_C3R), photo.data(), photo.step(), result.data(), result.step(), size, axis);
-    return result;
-}
-
-AnyImage transposed(const Rgb& photo, Bench& bench) {
-    Rgb result({photo.size().height, photo.size().width});
-    bench.time("transpose", photo.size(), 6, KVRI_CALL(kvriTranspose_8u_C3R), photo.data(), photo.step(), result.data(),
-               result.step(), photo.size());
     return result;
 }
 

@@ -14,7 +14,7 @@ namespace kvri {
 template <class T, class Expression>
 struct Saturated {
     using Sample = T;
-    static constexpr int unrolled = 4;
+    static constexpr int unrolled = 2;
     using V = Vec<T>;
     V operator()(V a, V b) const { return Expression::saturated(a, b); }
 };

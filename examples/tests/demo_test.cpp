@@ -121,7 +121,7 @@ TEST_F(Pictures, Reflection) {
 }
 
 TEST_F(Pictures, ContactSheetShowsThemAll) {
-    const KvriSize page{1520, 1078};
+    const KvriSize page{1520, 3444};
     const Bytes sheet = decodePng(picture("contact-sheet.png"), page, 3);
     // A picture as small as these is shown as it is, at the left of its cell of 480 x 270 pixels.
     const auto shown = [&](int number, int x, int y) {
@@ -264,7 +264,7 @@ TEST(Demo, ReportsProgressOnRequest) {
     const Outcome outcome = run(folder, {"photo.png", "--progress"});
     EXPECT_EQ(outcome.exitCode, 0);
     EXPECT_EQ(std::count(outcome.error.begin(), outcome.error.end(), '\n'), ptrdiff_t(demo::steps().size()));
-    EXPECT_CONTAINS(outcome.error, "[9/9] reflection");
+    EXPECT_CONTAINS(outcome.error, "[28/28] highlights");
 }
 
 }  // namespace

@@ -127,8 +127,15 @@ struct Scene {
     }
 };
 
-void expectResult(const Scene& scene, unsigned control = kMasks) {
+// What a control word becomes: valgrind has only the rounding.
+unsigned taken(unsigned control) {
+    const FloatControl callers(control);
+    return _mm_getcsr();
+}
+
+void expectResult(const Scene& scene, unsigned wanted = kMasks) {
     const Case& c = scene.c;
+    const unsigned control = taken(wanted);
     const auto want = scene.expected(control);
     unsigned after;
     KvrStatus status;

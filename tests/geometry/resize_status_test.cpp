@@ -170,10 +170,11 @@ TEST(ResizeStatus, Inits) {
             Arguments good;
             good.choice.lobes = lobes;
             _mm_setcsr(0x1F80 | 0x8040 | 0x2000);  // flush to zero, denormals as zeros, rounding down
+            const unsigned taken = _mm_getcsr();    // valgrind has only the rounding
             expectOrder(faults, good, [&](Arguments& a) {
                 const KvrStatus s = c.init(a.src, a.dst, a.choice, a.spec ? reinterpret_cast<KvriResizeSpec*>(spec.data()) : nullptr,
                                            a.buffer ? scratch.data() : nullptr);
-                EXPECT_EQ(_mm_getcsr() & ~0x3Fu, 0x1F80u | 0x8040 | 0x2000);
+                EXPECT_EQ(_mm_getcsr() & ~0x3Fu, taken & ~0x3Fu);
                 if (s != kvrStatusOk) {
                     EXPECT_EQ(std::count(spec.begin(), spec.end(), 88), long(spec.size()));
                 }

@@ -158,10 +158,11 @@ TEST(Arithmetic, LeavesTheFloatingPointControlAlone) {
         if (!c.scales()) scene.call.scale = 0;
         const auto want = isFloat(c.type) ? std::vector<uint8_t>{} : scene.expected();
         _mm_setcsr(kTowardZeroFlushed);
+        const unsigned taken = _mm_getcsr();  // valgrind has only the rounding
         const KvrStatus status = c.function(scene.call, 1);
         const unsigned after = _mm_getcsr();
         _mm_setcsr(before);
-        EXPECT_EQ(after & kControl, kTowardZeroFlushed) << c.name;
+        EXPECT_EQ(after & kControl, taken & kControl) << c.name;
         EXPECT_EQ(status, scene.status) << c.name;
         if (!isFloat(c.type)) {
             EXPECT_EQ(scene.d.memory(), want) << c.name;
