@@ -127,15 +127,15 @@ struct Scene {
     }
 };
 
-// What a control word becomes: valgrind has only the rounding.
-unsigned taken(unsigned control) {
-    const FloatControl callers(control);
-    return _mm_getcsr();
+// Under valgrind, which has only the rounding, and that not for all instructions, nothing else than the default is tried.
+bool takesControl() {
+    const FloatControl callers(kMasks | kFlushToZero);
+    return (_mm_getcsr() & kFlushToZero) != 0;
 }
 
 void expectResult(const Scene& scene, unsigned wanted = kMasks) {
     const Case& c = scene.c;
-    const unsigned control = taken(wanted);
+    const unsigned control = takesControl() ? wanted : kMasks;
     const auto want = scene.expected(control);
     unsigned after;
     KvrStatus status;
