@@ -140,6 +140,22 @@ TEST(Resize, CopiesAtEqualSize) {
     }
 }
 
+// A neighbour that weighs nothing need not exist, even where it might be read.
+TEST(Resize, ReadsNoNeighbourWithoutWeight) {
+    for (const Case& c : cases()) {
+        if (c.method != kvrInterpLinear) continue;
+        Random random(13);
+        const Object object(c, {}, {64, 3}, {64, 3});
+        const TestImage src(c.pixelBytes() * 64, 3, c.pixelBytes() * 64, Edge::End), have(src.rowBytes, 3, src.step, Edge::End);
+        for (int y = 0; y < 3; ++y)
+            for (int x = 0; x < src.rowBytes; x += sampleBytes(c.type)) contract::store(c.type, random.in(0, 255), src.row(y) + x);
+        std::vector<uint8_t> buffer(size_t(object.bufferBytes({64, 3})));
+        const Call call{src.roi, src.step, have.roi, have.step, {0, 0}, {64, 3}, kvrBorderInMem};
+        ASSERT_EQ(c.apply(call, object.spec(), buffer.data()), kvrStatusOk);
+        ASSERT_EQ(src.memory(), have.memory()) << c.name;
+    }
+}
+
 TEST(Resize, BeyondWhatAStripHolds) {
     for (const Case& c : cases()) {
         if (c.channels == 3) continue;
