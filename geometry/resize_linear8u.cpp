@@ -119,7 +119,7 @@ public:
         pixels = count;
         first = index[0];
         last = index[count - 1] + (weight[count - 1] >> 16 != 0);
-        std::memset(weight_ + samples() * sumBytes, 0, sizeof weight_ - size_t(samples() * sumBytes));
+        std::memset(weight_ + samples() * sumBytes, 0, kVectorBytes);
         for (int i = 0; i < count; ++i) setWeight(i, weight[i]);
         sparse = false;
         if (spec.x.ratio() <= kDenseRatio && place(index)) return true;

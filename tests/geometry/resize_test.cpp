@@ -47,7 +47,7 @@ std::string firstDifference(const Scene& s, const TestImage& have, const std::ve
 // The sums are those of one of the two orders, in every bit.
 TEST(Resize, MatchesContract) {
     for (const Case& c : cases())
-        for (int seed = 0; seed < 24; ++seed) {
+        for (int seed = 0; seed < 14; ++seed) {
             Random random(uint64_t(seed) * 7919 + 1);
             const Scene s = randomScene(c, random, seed % 8 == 0 ? 300 : 60, 12);
             const TestImage have(c.pixelBytes() * s.dst.width, s.dst.height, random);
@@ -140,10 +140,26 @@ TEST(Resize, CopiesAtEqualSize) {
     }
 }
 
+// A neighbour that weighs nothing need not exist, even where it might be read.
+TEST(Resize, ReadsNoNeighbourWithoutWeight) {
+    for (const Case& c : cases()) {
+        if (c.method != kvrInterpLinear) continue;
+        Random random(13);
+        const Object object(c, {}, {64, 3}, {64, 3});
+        const TestImage src(c.pixelBytes() * 64, 3, c.pixelBytes() * 64, Edge::End), have(src.rowBytes, 3, src.step, Edge::End);
+        for (int y = 0; y < 3; ++y)
+            for (int x = 0; x < src.rowBytes; x += sampleBytes(c.type)) contract::store(c.type, random.in(0, 255), src.row(y) + x);
+        std::vector<uint8_t> buffer(size_t(object.bufferBytes({64, 3})));
+        const Call call{src.roi, src.step, have.roi, have.step, {0, 0}, {64, 3}, kvrBorderInMem};
+        ASSERT_EQ(c.apply(call, object.spec(), buffer.data()), kvrStatusOk);
+        ASSERT_EQ(src.memory(), have.memory()) << c.name;
+    }
+}
+
 TEST(Resize, BeyondWhatAStripHolds) {
     for (const Case& c : cases()) {
         if (c.channels == 3) continue;
-        for (const auto& [src, dst] : {std::pair<KvriSize, KvriSize>{{5000, 7}, {2, 3}}, {{9, 1300}, {21, 2}}, {{1400, 60}, {1, 1}}, {{6, 6}, {2000, 7}}}) {
+        for (const auto& [src, dst] : {std::pair<KvriSize, KvriSize>{{2200, 6}, {2, 3}}, {{9, 700}, {9, 2}}, {{1100, 20}, {1, 1}}, {{6, 6}, {1500, 3}}}) {
             if (c.method == kvrInterpSuper && (dst.width > src.width || dst.height > src.height)) continue;
             Random random(5);
             const Choice o = randomChoice(random);
