@@ -22,12 +22,6 @@ Image<T> upsideDown(const Image<T>& image, ptrdiff_t height) {
     return {image.row + (height - 1) * image.step, -image.step, image.pixelBytes};
 }
 
-template <class T>
-Image<T> part(Image<T> image, ptrdiff_t x, ptrdiff_t y) {
-    image.row += y * image.step + x * image.pixelBytes;
-    return image;
-}
-
 // Vectors of rows to vectors of columns, of elements of Size bytes: after log2(N) rounds the rows' numbers have taken the
 // place of as many bits of the elements' numbers.
 template <int Size, int N, class V>
@@ -183,7 +177,7 @@ template <int B, int Chosen>
 void transposeNarrow(const uint8_t* src, ptrdiff_t srcStep, uint8_t* dst, ptrdiff_t dstStep, ptrdiff_t columns, ptrdiff_t rows) {
     using T = TransposedBlock<B, 16>;
     using V = Bytes<16>;
-    alignas(16) uint8_t in[T::rows * 16], out[T::columns][T::vectors * 16];
+    alignas(16) uint8_t in[T::rows * 16] = {}, out[T::columns][T::vectors * 16];
     for (ptrdiff_t x = 0; x < columns; x += T::columns)
         for (ptrdiff_t y = 0; y < rows; y += T::rows) {
             const ptrdiff_t width = std::min<ptrdiff_t>(columns - x, T::columns), height = std::min<ptrdiff_t>(rows - y, T::rows);
