@@ -210,7 +210,7 @@ void expectForEveryScale(const Case& c, int samples, F sample, int few = INT32_M
 TEST(Convert, EverySampleOfUpTo16Bits) {
     for (const Case& c : kCases) {
         if (c.channels != 1 || c.hasBits() || bytesOf(c.src) > 2) continue;
-        expectForEveryScale(c, 1 << 8 * bytesOf(c.src), [](int i, int) { return i * 0x9E35; }, 18);  // in another order
+        expectForEveryScale(c, 1 << 8 * bytesOf(c.src), [](int i, int) { return unsigned(i) * 0x9E35; }, 18);  // in another order
         if (HasFatalFailure()) return;
     }
 }
