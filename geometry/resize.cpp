@@ -34,7 +34,7 @@ public:
 
     void run() {
         const int n = Strip<F>::pixelsPerStrip(spec_, C);
-        if (n == 0) return runPixels();
+        if (n == 0 || spec_.y.taps > kMostSources) return runPixels();
         for (int x = 0; x < tile_.size.width; x += n) {
             strip_.template prepare<C>(spec_, tile_.offset.x + x, std::min(n, tile_.size.width - x), spec_.rowsFirst && sideBySide);
             if (spec_.rowsFirst) rowsFirst(x);
@@ -43,12 +43,13 @@ public:
     }
 
 private:
-    RowGroup<F> group(int y, int count) const { return {spec_, tile_.offset.y + y, count}; }
-
-    // Source columns from `low` on summed over the rows of a group.
-    template <class Out>
-    void sumSource(const RowGroup<F>& group, int low, ptrdiff_t columns, const Out& out) const {
-        sumRows<T>(group, [&](int j) { return tile_.source(group.first + j, low, pixelBytes); }, columns * C, out);
+    int position(int y) const { return tile_.offset.y + y; }
+    // How many rows from y on are summed together.
+    int rowsTogether(int y, int sources) const {
+        return RowGroup<F>::rowsWithin(spec_, position(y), std::min(kGroupRows, tile_.size.height - y), sources);
+    }
+    auto sourceFrom(int low) const {
+        return [this, low](int row) { return tile_.source(row, low, pixelBytes); };
     }
 
     // Columns low to high of a row that begins with column `first` are there; those beyond up to `last` repeat them.
@@ -70,44 +71,43 @@ private:
 
     void rowsFirst(int x) {
         const int first = strip_.first, last = strip_.last, low = tile_.columns(first), high = tile_.columns(last);
+        const ptrdiff_t samples = ptrdiff_t(high - low + 1) * C;
         for (int y = 0, n; y < tile_.size.height; y += n) {
-            n = std::min(kGroupRows, tile_.size.height - y);
-            const RowGroup<F> rows = group(y, n);
-            prefetchSource(y + n, rows, low, high);
+            n = rowsTogether(y, kMostSources);
+            RowGroup<F> group(spec_, position(y), n);
+            group.setRows(sourceFrom(low));
+            if (y + n < tile_.size.height) prefetchSource(y + n, group.first + group.sources, low, samples * ptrdiff_t(sizeof(T)));
             if constexpr (sideBySide) {
                 constexpr int column = Picker<F>::lanes;
-                sumSource(rows, low, high - low + 1, LaneColumns<C>(rows_ + ptrdiff_t(low - first) * column));
+                sumRows<T>(group, samples, LaneColumns<C>(rows_ + ptrdiff_t(low - first) * column));
                 extend<column>(rows_, first, low, high, last);
                 strip_.template apply<C>(rows_, destination(x, y, n));
             } else {
                 RowsOf<F> sums{{}, n};
                 for (int r = 0; r < n; ++r) sums.p[r] = reinterpret_cast<uint8_t*>(rows_ + r * rowStride + ptrdiff_t(low - first) * C);
-                sumSource(rows, low, high - low + 1, sums);
+                sumRows<T>(group, samples, sums);
                 for (int r = 0; r < n; ++r) extend<C>(rows_ + r * rowStride, first, low, high, last);
                 strip_.template apply<C>(rows_, rowStride, destination(x, y, n));
             }
         }
     }
 
-    // Rows that the group from destination row y on is the first to use.
-    void prefetchSource(int y, const RowGroup<F>& before, int low, int high) const {
-        if (y >= tile_.size.height) return;
-        const RowGroup<F> next = group(y, std::min(kGroupRows, tile_.size.height - y));
-        for (int row = std::max(next.first, before.first + before.sources); row < next.first + next.sources; ++row)
-            prefetch(tile_.source(row, low, pixelBytes), (high - low + 1) * pixelBytes);
+    // Rows from `row` on that the group of destination row y uses.
+    void prefetchSource(int y, int row, int low, ptrdiff_t bytes) const {
+        const int begin = spec_.firstTap(spec_.y, position(y)), last = std::min(y + kGroupRows, tile_.size.height) - 1;
+        const int end = std::min(spec_.firstTap(spec_.y, position(last)) + spec_.y.taps, begin + kMostSources);
+        for (row = std::max(row, begin); row < end; ++row) prefetch(tile_.source(row, low, pixelBytes), bytes);
     }
 
     void columnsFirst(int x) {
         Ring ring(tile_, spec_.y.taps, ptrdiff_t(strip_.pixels) * C, ring_);
         for (int y = 0, n; y < tile_.size.height; y += n) {
-            n = std::min(kGroupRows, tile_.size.height - y);
-            while (n > 1 && group(y, n).sources > ring.slots) --n;
-            const RowGroup<F> rows = group(y, n);
-            fill(ring, rows, x);
+            n = rowsTogether(y, ring.slots);
+            RowGroup<F> group(spec_, position(y), n);
+            fill(ring, group, x);
+            group.setRows([&](int row) { return ring.place(tile_.rows(row)); });
             for (int r = 0; r < n; ++r) tile_.prefetchDestination(y + n + r, x, strip_.pixels, pixelBytes);
-            const uint8_t* place[kResizeRowGroup];
-            for (int j = 0; j < rows.sources; ++j) place[j] = ring.place(tile_.rows(rows.first + j));
-            const auto sum = [&](const auto& out) { sumRows<F>(rows, [&](int j) { return place[j]; }, ptrdiff_t(strip_.pixels) * C, out); };
+            const auto sum = [&](const auto& out) { sumRows<F>(group, ptrdiff_t(strip_.pixels) * C, out); };
             const RowsOf<T> out = destination(x, y, n);
             if (tile_.streams && alignedAlike(out)) sum(RowsOf<T, StreamedRowOf>{out.p, out.count});
             else sum(out);
@@ -140,7 +140,7 @@ private:
         for (int j = 0; j < group.sources; ++j) {
             const int wanted = tile_.rows(group.first + j);
             int& held = ring.held[ring.slot(wanted)];
-            if (held == wanted || !group.uses(j)) continue;
+            if (held == wanted || group.used(j) == 0) continue;
             held = wanted;
             row[out.count] = wanted;
             out.p[out.count++] = ring.place(wanted);
@@ -180,6 +180,16 @@ private:
         return differences % kVectorBytes == 0 && reinterpret_cast<uintptr_t>(rows.p[0]) % sizeof(T) == 0;
     }
 
+    // Sums over the rows of destination row y, however many.
+    void sumColumns(int y, int low, ptrdiff_t samples, uint8_t* sums) const {
+        for (int t = 0; t < spec_.y.taps; t += kMostSources) {
+            RowGroup<F> group(spec_, position(y), 1, t, std::min(spec_.y.taps - t, kMostSources));
+            group.setRows(sourceFrom(low));
+            if (t == 0) sumRows<T>(group, samples, RowsOf<F>{{sums}, 1});
+            else sumRows<T>(group, samples, AddedRow<F>{{{sums}, 1}});
+        }
+    }
+
     // Where the taps of a single pixel fill a strip, they go to the caller's buffer.
     void runPixels() {
         F* sums = reinterpret_cast<F*>(tile_.buffer + (-reinterpret_cast<uintptr_t>(tile_.buffer) & (sizeof(F) - 1)));
@@ -187,7 +197,7 @@ private:
             const int position = tile_.offset.x + x, first = spec_.firstTap(spec_.x, position);
             const int low = tile_.columns(first), high = tile_.columns(first + spec_.x.taps - 1);
             for (int y = 0; y < tile_.size.height; ++y) {
-                sumSource(group(y, 1), low, high - low + 1, RowsOf<F>{{reinterpret_cast<uint8_t*>(sums)}, 1});
+                sumColumns(y, low, ptrdiff_t(high - low + 1) * C, reinterpret_cast<uint8_t*>(sums));
                 F pixel[C];
                 for (int t = 0; t < spec_.x.taps; ++t) {
                     const F* column = sums + ptrdiff_t(tile_.columns(first + t) - low) * C;

@@ -41,7 +41,7 @@ class LaneColumns {
     float* to_;
 
     // Pixels of three numbers, a lane each.
-    static void spread(const V (&v)[3], V (&out)[4]) {
+    KVRI_INLINE static void spread(const V (&v)[3], V (&out)[4]) {
         unroll<4>([&](auto k) KVRI_INLINE {
             if constexpr (k == 0 || k == 3) out[k] = Picker<float>::pick<1>(v[k == 0 ? 0 : 2], V{}, spreadCodes<k>());
             else out[k] = Picker<float>::pick<2>(v[k - 1], v[k], spreadCodes<k>());
@@ -64,15 +64,17 @@ public:
 
     explicit LaneColumns(float* to) : to_(to) {}
 
+    template <class U>
+    static U begin(int, ptrdiff_t) { return splat<U>(-0.0f); }
     static ptrdiff_t head() { return 0; }
     // Behind the last sample, up to a block is written.
     template <int vectors>
-    void put(ptrdiff_t i, const GroupSums<float, vectors>& sums, ptrdiff_t) const {
+    KVRI_INLINE void put(ptrdiff_t i, const GroupSums<float, vectors>& sums, ptrdiff_t) const {
         constexpr int each = C == 3 ? 4 : vectors;
         V pixels[kGroupRows][each];
         unroll<kGroupRows>([&](auto r) KVRI_INLINE {
             if constexpr (C == 3) spread(sums.of[r], pixels[r]);
-            else std::copy(sums.of[r], sums.of[r] + each, pixels[r]);
+            else unroll<each>([&](auto u) KVRI_INLINE { pixels[r][u] = sums.of[r][u]; });
         });
         unroll<each>([&](auto u) KVRI_INLINE {
             V column[kLanes];
@@ -92,7 +94,7 @@ class LanePixels {
 
     // Chunk k of the four pixels from i on: a lane is of a row.
     template <class V>
-    void putLanes(int i, V v) const {
+    KVRI_INLINE void putLanes(int i, V v) const {
         const int n = pixels_ - i;
         if (n <= 0) return;
         if constexpr (C == 3 && sizeof(T) < 4)
@@ -112,7 +114,7 @@ class LanePixels {
 public:
     LanePixels(uint8_t* const* row, int rows, int pixels) : row_(row), rows_(rows), pixels_(pixels) {}
 
-    void put(int i, const Vec<float> (&v)[4]) const {
+    KVRI_INLINE void put(int i, const Vec<float> (&v)[4]) const {
         if constexpr (sizeof(T) == 4) {
             unroll<4>([&](auto k) KVRI_INLINE { putLanes(i + k, v[k]); });
         } else {

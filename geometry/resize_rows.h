@@ -12,26 +12,53 @@ namespace kvri {
 // Destination rows that are summed at a time, as they share source rows.
 constexpr int kGroupRows = kLanes;
 
-// Destination rows from `position` on, at most `count` of them. Source row first + j is tap j - begin[r] of row r.
-template <class F>
-struct RowGroup {
-    int count, taps, first, sources;
-    int begin[kGroupRows];
-    const F* weight[kGroupRows];
+// Source rows of a group.
+constexpr int kMostSources = 256;
 
-    RowGroup(const ResizeSpec& spec, int position, int count) : count(count), taps(spec.y.taps), first(spec.firstTap(spec.y, position)) {
-        sources = spec.firstTap(spec.y, position + count - 1) + taps - first;
-        for (int r = 0; r < kGroupRows; ++r) {
-            begin[r] = r < count ? spec.firstTap(spec.y, position + r) - first : sources;
-            weight[r] = spec.table<F>(spec.y.weights) + ptrdiff_t((position + r) % spec.y.period) * spec.y.positionStride;
+// The sums of a group of destination rows: source row j with its weight for each of them that uses it.
+template <class F>
+class RowGroup {
+    uint8_t used_[kMostSources];  // bit r: by destination row r
+    F weight_[kMostSources][kGroupRows];
+    const uint8_t* row_[kMostSources];
+
+public:
+    int first, sources;
+
+    // Destination rows from `position` on, of which `taps` taps from tap `from` on are summed.
+    RowGroup(const ResizeSpec& spec, int position, int rows, int from, int taps) : first(firstOf(spec, position) + from) {
+        sources = firstOf(spec, position + rows - 1) + from + taps - first;
+        std::fill_n(used_, sources, uint8_t(0));
+        for (int r = 0; r < rows; ++r) {
+            const int begin = firstOf(spec, position + r) + from - first;
+            const F* weight = spec.table<F>(spec.y.weights) + ptrdiff_t((position + r) % spec.y.period) * spec.y.positionStride + from;
+            for (int t = 0; t < taps; ++t) {
+                used_[begin + t] |= uint8_t(1 << r);
+                weight_[begin + t][r] = weight[t];
+            }
         }
     }
-    bool uses(int r, int j) const { return unsigned(j - begin[r]) < unsigned(taps); }
-    bool uses(int j) const {
-        for (int r = 0; r < kGroupRows; ++r)
-            if (uses(r, j)) return true;
-        return false;
+    RowGroup(const ResizeSpec& spec, int position, int rows) : RowGroup(spec, position, rows, 0, spec.y.taps) {}
+
+    // The most rows, up to `rows`, that have no more than `sources` source rows.
+    static int rowsWithin(const ResizeSpec& spec, int position, int rows, int sources) {
+        while (rows > 1 && firstOf(spec, position + rows - 1) + spec.y.taps - firstOf(spec, position) > sources) --rows;
+        return rows;
     }
+
+    // rowAt(first + j) is asked for rows that are used.
+    template <class RowAt>
+    void setRows(RowAt rowAt) {
+        for (int j = 0; j < sources; ++j)
+            if (used_[j] != 0) row_[j] = rowAt(first + j);
+    }
+
+    const uint8_t* row(int j) const { return row_[j]; }
+    int used(int j) const { return used_[j]; }
+    F weight(int j, int r) const { return weight_[j][r]; }
+
+private:
+    static int firstOf(const ResizeSpec& spec, int position) { return spec.firstTap(spec.y, position); }
 };
 
 template <class F, int vectors>
@@ -46,9 +73,12 @@ struct RowsOf {
     std::array<uint8_t*, kGroupRows> p;
     int count;
 
+    // What a sum begins with: a number that leaves any first product as it is.
+    template <class V>
+    static V begin(int, ptrdiff_t) { return splat<V>(-0.0f); }
     ptrdiff_t head() const { return Row<T>(p[0]).head(); }
     template <int vectors>
-    void put(ptrdiff_t i, const GroupSums<RealOf<T>, vectors>& sums, ptrdiff_t samples) const {
+    KVRI_INLINE void put(ptrdiff_t i, const GroupSums<RealOf<T>, vectors>& sums, ptrdiff_t samples) const {
         unroll<kGroupRows>([&](auto r) KVRI_INLINE {
             if (r >= count) return;
             const Row<T> row(p[r]);
@@ -59,25 +89,33 @@ struct RowsOf {
     }
 };
 
-// The group's sums over source rows rowAt(j), the first `samples` of each.
-template <class T, class RowAt, class Out>
-void sumRows(const RowGroup<RealOf<T>>& group, RowAt rowAt, ptrdiff_t samples, const Out& out) {
+// A single row of sums to which more taps are added.
+template <class F>
+struct AddedRow : RowsOf<F> {
+    template <class V>
+    V begin(int r, ptrdiff_t i) const { return r == 0 ? load<V>(this->p[0] + i * ptrdiff_t(sizeof(F))) : V{}; }
+};
+
+// The group's sums over the first `samples` of each source row.
+template <class T, class Out>
+void sumRows(const RowGroup<RealOf<T>>& group, ptrdiff_t samples, const Out& out) {
     using V = Reals<T>;
     constexpr int lanes = kReals<T>;
     const auto sum = [&](auto size, ptrdiff_t i, auto loadFrom) KVRI_INLINE {
         constexpr int vectors = size;
         GroupSums<RealOf<T>, vectors> sums;
         unroll<kGroupRows>([&](auto r) KVRI_INLINE {
-            unroll<vectors>([&](auto u) KVRI_INLINE { sums.of[r][u] = splat<V>(-0.0f); });  // which leaves any first product as it is
+            unroll<vectors>([&](auto u) KVRI_INLINE { sums.of[r][u] = out.template begin<V>(r, i + u * lanes); });
         });
         for (int j = 0; j < group.sources; ++j) {
-            if (!group.uses(j)) continue;
-            const uint8_t* p = rowAt(j) + i * ptrdiff_t(sizeof(T));
+            const int used = group.used(j);
+            if (used == 0) continue;
+            const uint8_t* p = group.row(j) + i * ptrdiff_t(sizeof(T));
             V v[vectors];
             unroll<vectors>([&](auto u) KVRI_INLINE { v[u] = loadedOnce(loadFrom(p, u)); });
             unroll<kGroupRows>([&](auto r) KVRI_INLINE {
-                if (!group.uses(r, j)) return;
-                const V w = splat<V>(group.weight[r][j - group.begin[r]]);
+                if (!(used & 1 << r)) return;
+                const V w = splat<V>(group.weight(j, r));
                 unroll<vectors>([&](auto u) KVRI_INLINE { sums.of[r][u] = sums.of[r][u] + v[u] * w; });
             });
         }
