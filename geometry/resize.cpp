@@ -10,6 +10,7 @@
 #include "geometry/resize_apply.h"
 #include "geometry/resize_halve.h"
 #include "geometry/resize_strip.h"
+#include "geometry/resize_whole.h"
 
 namespace kvri {
 namespace {
@@ -36,7 +37,9 @@ public:
         const int n = Strip<F>::pixelsPerStrip(spec_, C);
         if (n == 0 || spec_.y.taps > kMostSources) return runPixels();
         for (int x = 0; x < tile_.size.width; x += n) {
-            strip_.template prepare<C>(spec_, tile_.offset.x + x, std::min(n, tile_.size.width - x), spec_.rowsFirst && sideBySide);
+            const int position = tile_.offset.x + x, pixels = std::min(n, tile_.size.width - x);
+            if (exactRows(x, position, pixels)) continue;
+            strip_.template prepare<C>(spec_, position, pixels, spec_.rowsFirst && sideBySide);
             if (spec_.rowsFirst) rowsFirst(x);
             else columnsFirst(x);
         }
@@ -53,10 +56,10 @@ private:
     }
 
     // Columns low to high of a row that begins with column `first` are there; those beyond up to `last` repeat them.
-    template <int numbers>
-    static void extend(F* row, int first, int low, int high, int last) {
+    template <int numbers, class Number>
+    static void extend(Number* row, int first, int low, int high, int last) {
         const auto repeat = [&](int column, int from, int to) {
-            const F* edge = row + ptrdiff_t(column - first) * numbers;
+            const Number* edge = row + ptrdiff_t(column - first) * numbers;
             for (int x = from; x < to; ++x) std::copy(edge, edge + numbers, row + ptrdiff_t(x - first) * numbers);
         };
         repeat(low, first, low);
@@ -76,7 +79,7 @@ private:
             n = rowsTogether(y, kMostSources);
             RowGroup<F> group(spec_, position(y), n);
             group.setRows(sourceFrom(low));
-            if (y + n < tile_.size.height) prefetchSource(y + n, group.first + group.sources, low, samples * ptrdiff_t(sizeof(T)));
+            prefetchSource(y + n, group.first + group.sources, low, samples * ptrdiff_t(sizeof(T)));
             if constexpr (sideBySide) {
                 constexpr int column = Picker<F>::lanes;
                 sumRows<T>(group, samples, LaneColumns<C>(rows_ + ptrdiff_t(low - first) * column));
@@ -92,8 +95,34 @@ private:
         }
     }
 
+    // Rows first, in exact whole numbers; false, with nothing done, where the weights or the taps' places are not fit for it.
+    bool exactRows([[maybe_unused]] int x, [[maybe_unused]] int position, [[maybe_unused]] int pixels) {
+#if defined(__AVX512BW__)
+        if constexpr (sizeof(T) == 1) {
+            if (!spec_.whole() || !strip_.template prepareWhole<C>(spec_, position, pixels)) return false;
+            const int first = strip_.first, last = strip_.last, low = tile_.columns(first), high = tile_.columns(last);
+            const ptrdiff_t samples = ptrdiff_t(high - low + 1) * C, stride = rowStride * 2;
+            auto* rows = reinterpret_cast<int16_t*>(rows_);
+            for (int y = 0, n; y < tile_.size.height; y += n) {
+                n = std::min(kGroupRows, tile_.size.height - y);
+                prefetchSource(y + n, spec_.firstTap(spec_.y, this->position(y + n - 1)) + spec_.y.taps, low, samples);
+                for (int r = 0; r < n; ++r) {
+                    int16_t* row = rows + r * stride;
+                    WholeRow(spec_, this->position(y + r), sourceFrom(low)).sum(samples, row + ptrdiff_t(low - first) * C);
+                    extend<C>(row, first, low, high, last);
+                }
+                strip_.template applyWhole<C>(rows, stride, WholeRow::less(spec_.y) << spec_.x.wholeBits,
+                                              float(1 << (spec_.x.wholeBits + spec_.y.wholeBits)), destination(x, y, n));
+            }
+            return true;
+        }
+#endif
+        return false;
+    }
+
     // Rows from `row` on that the group of destination row y uses.
     void prefetchSource(int y, int row, int low, ptrdiff_t bytes) const {
+        if (y >= tile_.size.height) return;
         const int begin = spec_.firstTap(spec_.y, position(y)), last = std::min(y + kGroupRows, tile_.size.height) - 1;
         const int end = std::min(spec_.firstTap(spec_.y, position(last)) + spec_.y.taps, begin + kMostSources);
         for (row = std::max(row, begin); row < end; ++row) prefetch(tile_.source(row, low, pixelBytes), bytes);

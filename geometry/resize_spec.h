@@ -28,6 +28,8 @@ struct ResizeAxis {
     int32_t period;                     // positions after which weights repeat, and first taps move on by reducedSource
     int32_t index, weights;             // offsets of the tables in bytes
     int32_t positionStride, tapStride;  // of weights, in weights
+    int32_t wholeBits;  // weights are whole numbers of 2^-wholeBits; -1: not, or too large ones for bytes
+    int32_t magnitude;  // the largest sum of their magnitudes in these units
 
     double ratio() const { return double(reducedSource) / reducedDestination; }
     // The source coordinate of destination position i; pixel centres are whole numbers.
@@ -43,6 +45,9 @@ struct ResizeSpec {
     int32_t rowsFirst;      // whether a destination pixel is a sum over rows of sources first, then over columns
     KvriBorderSize border;  // what GetBorderSize tells
     ResizeAxis x, y;
+
+    // Whether sums of 8u, in any order, are exact in single precision and in 16-bit numbers between the passes.
+    bool whole() const { return x.wholeBits >= 0 && y.wholeBits >= 0 && 255 * x.magnitude * y.magnitude <= 1 << 24; }
 
     template <class T>
     const T* table(int32_t offset) const { return reinterpret_cast<const T*>(reinterpret_cast<const char*>(this) + offset); }
@@ -63,6 +68,8 @@ struct ResizeSpec {
         return method == kvrInterpSuper ? firstTap(a, i) : int(i * a.ratio());
     }
 };
+
+constexpr int kWholeTaps = 8;
 
 // Source rows that are combined at a time; where a pixel has more, rows come first.
 constexpr int kResizeRowGroup = 64;

@@ -47,24 +47,9 @@ public:
     // sideBySide: rows are given as columns of a group's pixels.
     template <int C>
     void prepare(const ResizeSpec& spec, int position, int count, bool sideBySide) {
-        const ResizeAxis& x = spec.x;
-        taps_ = x.taps;
-        pixels = count;
-        sparse = x.ratio() > taps_;
-        first = spec.firstTap(x, position);
-        last = spec.firstTap(x, position + count - 1) + taps_ - 1;
         int32_t place[kStripSamples + lanes];
-        if (sparse) {
-            for (int i = 0; i < count; ++i) place[i] = i * taps_;
-        } else if (x.period == x.destination) {
-            const auto* index = spec.table<int32_t>(x.index) + position;
-            for (int i = 0; i < count; ++i) place[i] = index[i] - first;
-        } else {
-            for (int i = 0; i < count; ++i) place[i] = spec.firstTap(x, position + i) - first;
-        }
-        std::fill(place + count, place + count + lanes, place[count - 1]);
-        way_ = sideBySide ? Way::SideBySide : makeCodes<C>(place);
-        if (way_ < Way::PixelByPixel && taps_ * wholeVectors(pixels * C) > capacity) way_ = Way::PixelByPixel;
+        placeTaps(spec, position, count, place);
+        way_ = sideBySide ? Way::SideBySide : wayFor(makeCodes<C>(place), C);
         if (way_ >= Way::PixelByPixel) {
             std::copy(place, place + (count + 3) / 4 * 4, base_);
             setWeights<1>(spec, position);
@@ -72,6 +57,18 @@ public:
             setWeights<C>(spec, position);
         }
     }
+
+#if defined(__AVX512BW__)
+    // For rows of 16-bit numbers; false where two vectors do not hold all taps.
+    template <int C>
+    bool prepareWhole(const ResizeSpec& spec, int position, int count) {
+        int32_t place[kStripSamples + lanes];
+        placeTaps(spec, position, count, place);
+        if (sparse || makeCodes<C>(place) + (taps_ + 1) / 2 * 2 * C > 4 * lanes) return false;
+        setWholeWeights<C>(spec, position);
+        return true;
+    }
+#endif
 
     // Horizontal pass of some rows of the strip's columns, `rowStride` numbers apart.
     template <int C, class T>
@@ -83,6 +80,16 @@ public:
                 for (; out.count - r >= together; r += together) applyTogether<C, together, T>(row + r * rowStride, rowStride, &out.p[r]);
         });
     }
+
+#if defined(__AVX512BW__)
+    // The same of 16-bit rows, which are less by a number that sums begin with: exact sums, in units of 1 / scale.
+    template <int C>
+    void applyWhole(const int16_t* row, ptrdiff_t rowStride, int begin, float scale, const RowsOf<uint8_t>& out) const {
+        int r = 0;
+        for (; out.count - r >= 4; r += 4) applyWholeRows<C, 4>(row + r * rowStride, rowStride, begin, scale, &out.p[r]);
+        for (; r < out.count; ++r) applyWholeRows<C, 1>(row + r * rowStride, rowStride, begin, scale, &out.p[r]);
+    }
+#endif
 
     // The same of a group's columns side by side.
     template <int C, class T>
@@ -129,9 +136,28 @@ private:
         }
     };
 
-    // Where each sample's first tap lies, from the lowest of its vector's samples on. Places do not decrease.
+    // Places of the first taps in a row. Places do not decrease.
+    void placeTaps(const ResizeSpec& spec, int position, int count, int32_t* place) {
+        const ResizeAxis& x = spec.x;
+        taps_ = x.taps;
+        pixels = count;
+        sparse = x.ratio() > taps_;
+        first = spec.firstTap(x, position);
+        last = spec.firstTap(x, position + count - 1) + taps_ - 1;
+        if (sparse) {
+            for (int i = 0; i < count; ++i) place[i] = i * taps_;
+        } else if (x.period == x.destination) {
+            const auto* index = spec.table<int32_t>(x.index) + position;
+            for (int i = 0; i < count; ++i) place[i] = index[i] - first;
+        } else {
+            for (int i = 0; i < count; ++i) place[i] = spec.firstTap(x, position + i) - first;
+        }
+        std::fill(place + count, place + count + lanes, place[count - 1]);
+    }
+
+    // Where each sample's first tap lies, from the lowest of its vector's samples on; returns the farthest.
     template <int C>
-    Way makeCodes(const int32_t* place) {
+    int makeCodes(const int32_t* place) {
         int reach = 0;
         const int samples = pixels * C;
         for (int s = 0; s < samples; s += lanes) {
@@ -153,11 +179,61 @@ private:
                 for (int i = 0; i < lanes; ++i) code_[s + i] = Pick::code(uint32_t(at(std::min(s + i, end)) - low));
             }
         }
-        const int allTaps = reach + (taps_ - 1) * C;
-        if (reach >= 2 * lanes) return Way::PixelByPixel;
-        perLoad_ = allTaps < 2 * lanes ? taps_ : (2 * lanes - 1 - reach) / C + 1;
+        return reach;
+    }
+
+    Way wayFor(int reach, int channels) {
+        const int allTaps = reach + (taps_ - 1) * channels;
+        if (reach >= 2 * lanes || taps_ * wholeVectors(pixels * channels) > capacity) return Way::PixelByPixel;
+        perLoad_ = allTaps < 2 * lanes ? taps_ : (2 * lanes - 1 - reach) / channels + 1;
         return allTaps < lanes ? Way::OneLoad : Way::TwoLoads;
     }
+
+#if defined(__AVX512BW__)
+    // Pairs of 16-bit weights.
+    template <int C>
+    void setWholeWeights(const ResizeSpec& spec, int position) {
+        const ResizeAxis& x = spec.x;
+        const float scale = float(1 << x.wholeBits);
+        stride_ = wholeVectors(pixels * C);
+        for (int t = 0; t < taps_; t += 2)
+            for (int i = 0; i < pixels; ++i) {
+                const int low = int(spec.weight<float>(x, position + i, t) * scale);
+                const int high = t + 1 < taps_ ? int(spec.weight<float>(x, position + i, t + 1) * scale) : 0;
+                const uint32_t pair = uint32_t(low & 0xFFFF) | uint32_t(high) << 16;
+                for (int c = 0; c < C; ++c) std::memcpy(weight_ + t / 2 * stride_ + i * C + c, &pair, 4);
+            }
+    }
+
+    template <int C, int rows>
+    void applyWholeRows(const int16_t* row, ptrdiff_t rowStride, int begin, float scale, uint8_t* const* out) const {
+        using Words = Vec<uint32_t>;
+        using Sums = Vec<int32_t>;
+        constexpr uint32_t both = 0x10001;
+        const V unit = splat<V>(1 / scale);
+        const auto sum = [&](int s, auto put) KVRI_INLINE {
+            const int16_t* p = row + base_[s / lanes];
+            const Words n = load<Words>(code_ + s);
+            Words codes = (n | n << 16) + (uint32_t(C) << 16);
+            Bytes<> a[rows], b[rows];
+            Sums acc[rows];
+            unroll<rows>([&](auto r) KVRI_INLINE {
+                a[r] = loadedOnce(load<Bytes<>>(p + r * rowStride));
+                b[r] = loadedOnce(load<Bytes<>>(p + r * rowStride + 2 * lanes));
+                acc[r] = splat<Sums>(begin);
+            });
+            for (int t = 0; t < taps_; t += 2, codes += 2 * C * both) {
+                const auto weights = load<Vec<int16_t>>(weight_ + t / 2 * stride_ + s);
+                unroll<rows>([&](auto r) KVRI_INLINE {
+                    const auto taps = (Vec<int16_t>)_mm512_permutex2var_epi16((__m512i)a[r], (__m512i)codes, (__m512i)b[r]);
+                    acc[r] += multiplyPairs(taps, weights);
+                });
+            }
+            unroll<rows>([&](auto r) KVRI_INLINE { put(r, toFloats(acc[r]) * unit); });
+        };
+        eachVector<rows, uint8_t>(pixels * C, sum, out);
+    }
+#endif
 
     // Each pixel's weights `Times` times, to the end of a vector.
     template <int Times>
@@ -222,6 +298,12 @@ private:
             }
             unroll<rows>([&](auto r) KVRI_INLINE { put(r, acc[r]); });
         };
+        eachVector<rows, T>(samples, sum, out);
+    }
+
+    // sum(s, put) gives put(r, sums from sample s on of row r).
+    template <int rows, class T, class Sum>
+    KVRI_INLINE static void eachVector(int samples, Sum sum, uint8_t* const* out) {
         int s = 0;
         for (; samples - s >= 4 * lanes; s += 4 * lanes) {
             V v[rows][4];
