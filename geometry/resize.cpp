@@ -37,9 +37,12 @@ public:
         const int n = Strip<F>::pixelsPerStrip(spec_, C);
         if (n == 0 || spec_.y.taps > kMostSources) return runPixels();
         for (int x = 0; x < tile_.size.width; x += n) {
-            const int position = tile_.offset.x + x, pixels = std::min(n, tile_.size.width - x);
-            if (exactRows(x, position, pixels)) continue;
-            strip_.template prepare<C>(spec_, position, pixels, spec_.rowsFirst && sideBySide);
+            const int pixels = std::min(n, tile_.size.width - x);
+#if defined(__AVX512BW__)
+            if constexpr (sizeof(T) == 1)
+                if (wholeRows(x, pixels)) continue;
+#endif
+            strip_.template prepare<C>(spec_, tile_.offset.x + x, pixels, spec_.rowsFirst && sideBySide);
             if (spec_.rowsFirst) rowsFirst(x);
             else columnsFirst(x);
         }
@@ -95,30 +98,24 @@ private:
         }
     }
 
-    // Rows first, in exact whole numbers; false, with nothing done, where the weights or the taps' places are not fit for it.
-    bool exactRows([[maybe_unused]] int x, [[maybe_unused]] int position, [[maybe_unused]] int pixels) {
 #if defined(__AVX512BW__)
-        if constexpr (sizeof(T) == 1) {
-            if (!spec_.whole() || !strip_.template prepareWhole<C>(spec_, position, pixels)) return false;
-            const int first = strip_.first, last = strip_.last, low = tile_.columns(first), high = tile_.columns(last);
-            const ptrdiff_t samples = ptrdiff_t(high - low + 1) * C, stride = rowStride * 2;
-            auto* rows = reinterpret_cast<int16_t*>(rows_);
-            for (int y = 0, n; y < tile_.size.height; y += n) {
-                n = std::min(kGroupRows, tile_.size.height - y);
-                prefetchSource(y + n, spec_.firstTap(spec_.y, this->position(y + n - 1)) + spec_.y.taps, low, samples);
-                for (int r = 0; r < n; ++r) {
-                    int16_t* row = rows + r * stride;
-                    WholeRow(spec_, this->position(y + r), sourceFrom(low)).sum(samples, row + ptrdiff_t(low - first) * C);
-                    extend<C>(row, first, low, high, last);
-                }
-                strip_.template applyWhole<C>(rows, stride, WholeRow::less(spec_.y) << spec_.x.wholeBits,
-                                              float(1 << (spec_.x.wholeBits + spec_.y.wholeBits)), destination(x, y, n));
-            }
-            return true;
+    // Rows first in exact numbers; false, with nothing done, where the weights or the taps' places are not fit for it.
+    bool wholeRows(int x, int n) {
+        if (!spec_.whole() || !strip_.template prepareWhole<C>(spec_, tile_.offset.x + x, n)) return false;
+        const int first = strip_.first, last = strip_.last, low = tile_.columns(first), high = tile_.columns(last);
+        const ptrdiff_t samples = ptrdiff_t(high - low + 1) * C, stride = rowStride * 2;
+        auto* rows = reinterpret_cast<int16_t*>(rows_);
+        const int bits = spec_.x.wholeBits, begin = lessThanWhole(spec_.y) << bits;
+        for (int y = 0, n; y < tile_.size.height; y += n) {
+            n = WholeGroup::rowsWithin(spec_, position(y), std::min(kGroupRows, tile_.size.height - y));
+            prefetchSource(y + n, spec_.firstTap(spec_.y, position(y + n - 1)) + spec_.y.taps, low, samples);
+            WholeGroup(spec_, position(y), n, sourceFrom(low)).sum(samples, rows + ptrdiff_t(low - first) * C, stride);
+            for (int r = 0; r < n; ++r) extend<C>(rows + r * stride, first, low, high, last);
+            strip_.template applyWhole<C>(rows, stride, begin, bits + spec_.y.wholeBits, destination(x, y, n));
         }
-#endif
-        return false;
+        return true;
     }
+#endif
 
     // Rows from `row` on that the group of destination row y uses.
     void prefetchSource(int y, int row, int low, ptrdiff_t bytes) const {

@@ -64,7 +64,9 @@ public:
     bool prepareWhole(const ResizeSpec& spec, int position, int count) {
         int32_t place[kStripSamples + lanes];
         placeTaps(spec, position, count, place);
-        if (sparse || makeCodes<C>(place) + (taps_ + 1) / 2 * 2 * C > 4 * lanes) return false;
+        const int allTaps = makeCodes<C>(place) + (taps_ + 1) / 2 * 2 * C;
+        if (sparse || allTaps > 4 * lanes) return false;
+        way_ = allTaps <= 2 * lanes ? Way::OneLoad : Way::TwoLoads;
         setWholeWeights<C>(spec, position);
         return true;
     }
@@ -82,12 +84,12 @@ public:
     }
 
 #if defined(__AVX512BW__)
-    // The same of 16-bit rows, which are less by a number that sums begin with: exact sums, in units of 1 / scale.
+    // The same of 16-bit rows, which are less by a number that sums begin with: exact sums, in units of 2^-bits.
     template <int C>
-    void applyWhole(const int16_t* row, ptrdiff_t rowStride, int begin, float scale, const RowsOf<uint8_t>& out) const {
+    void applyWhole(const int16_t* row, ptrdiff_t rowStride, int begin, int bits, const RowsOf<uint8_t>& out) const {
         int r = 0;
-        for (; out.count - r >= 4; r += 4) applyWholeRows<C, 4>(row + r * rowStride, rowStride, begin, scale, &out.p[r]);
-        for (; r < out.count; ++r) applyWholeRows<C, 1>(row + r * rowStride, rowStride, begin, scale, &out.p[r]);
+        for (; out.count - r >= 4; r += 4) applyWholeRows<C, 4>(row + r * rowStride, rowStride, begin, bits, &out.p[r]);
+        for (; r < out.count; ++r) applyWholeRows<C, 1>(row + r * rowStride, rowStride, begin, bits, &out.p[r]);
     }
 #endif
 
@@ -195,22 +197,40 @@ private:
     void setWholeWeights(const ResizeSpec& spec, int position) {
         const ResizeAxis& x = spec.x;
         const float scale = float(1 << x.wholeBits);
+        const auto* table = spec.table<float>(x.weights) + position;
         stride_ = wholeVectors(pixels * C);
         for (int t = 0; t < taps_; t += 2)
-            for (int i = 0; i < pixels; ++i) {
-                const int low = int(spec.weight<float>(x, position + i, t) * scale);
-                const int high = t + 1 < taps_ ? int(spec.weight<float>(x, position + i, t + 1) * scale) : 0;
-                const uint32_t pair = uint32_t(low & 0xFFFF) | uint32_t(high) << 16;
-                for (int c = 0; c < C; ++c) std::memcpy(weight_ + t / 2 * stride_ + i * C + c, &pair, 4);
+            for (int s = 0; s < pixels * C; s += lanes) {
+                const auto whole = [&](int tap) KVRI_INLINE {
+                    if (tap == taps_) return Vec<int32_t>{};
+                    if (x.period == x.destination)
+                        return towardZero(pickOne(table + ptrdiff_t(tap) * x.tapStride + s / C, Samples<C>::pixelCodes(s % C)) * scale);
+                    Vec<int32_t> w{};
+                    for (int i = 0; i < lanes; ++i) w[i] = int(spec.weight<float>(x, position + std::min((s + i) / C, pixels - 1), tap) * scale);
+                    return w;
+                };
+                store(weight_ + t / 2 * stride_ + s, (whole(t) & 0xFFFF) | (Vec<int32_t>)((Vec<uint32_t>)whole(t + 1) << 16));
             }
     }
 
     template <int C, int rows>
-    void applyWholeRows(const int16_t* row, ptrdiff_t rowStride, int begin, float scale, uint8_t* const* out) const {
+    void applyWholeRows(const int16_t* row, ptrdiff_t rowStride, int begin, int bits, uint8_t* const* out) const {
+        const auto run = [&](auto taps) {
+            if (way_ == Way::OneLoad) sumWholeRows<C, rows, 1, taps>(row, rowStride, begin, bits, out);
+            else sumWholeRows<C, rows, 2, taps>(row, rowStride, begin, bits, out);
+        };
+        if (taps_ <= 2) run(std::integral_constant<int, 2>{});
+        else if (taps_ <= 4) run(std::integral_constant<int, 4>{});
+        else run(std::integral_constant<int, kWholeTaps>{});
+    }
+
+    // Taps: what taps_ is at most.
+    template <int C, int rows, int Reach, int Taps>
+    void sumWholeRows(const int16_t* row, ptrdiff_t rowStride, int begin, int bits, uint8_t* const* out) const {
         using Words = Vec<uint32_t>;
         using Sums = Vec<int32_t>;
         constexpr uint32_t both = 0x10001;
-        const V unit = splat<V>(1 / scale);
+        const V unit = splat<V>(1 / float(1 << bits));
         const auto sum = [&](int s, auto put) KVRI_INLINE {
             const int16_t* p = row + base_[s / lanes];
             const Words n = load<Words>(code_ + s);
@@ -219,19 +239,23 @@ private:
             Sums acc[rows];
             unroll<rows>([&](auto r) KVRI_INLINE {
                 a[r] = loadedOnce(load<Bytes<>>(p + r * rowStride));
-                b[r] = loadedOnce(load<Bytes<>>(p + r * rowStride + 2 * lanes));
+                if constexpr (Reach == 2) b[r] = loadedOnce(load<Bytes<>>(p + r * rowStride + 2 * lanes));
                 acc[r] = splat<Sums>(begin);
             });
-            for (int t = 0; t < taps_; t += 2, codes += 2 * C * both) {
-                const auto weights = load<Vec<int16_t>>(weight_ + t / 2 * stride_ + s);
+            unroll<Taps / 2>([&](auto pair) KVRI_INLINE {
+                if (Taps > 4 && 2 * pair >= taps_) return;
+                const auto weights = load<Vec<int16_t>>(weight_ + pair * stride_ + s);
                 unroll<rows>([&](auto r) KVRI_INLINE {
-                    const auto taps = (Vec<int16_t>)_mm512_permutex2var_epi16((__m512i)a[r], (__m512i)codes, (__m512i)b[r]);
-                    acc[r] += multiplyPairs(taps, weights);
+                    __m512i taps;
+                    if constexpr (Reach == 2) taps = _mm512_permutex2var_epi16((__m512i)a[r], (__m512i)codes, (__m512i)b[r]);
+                    else taps = _mm512_permutexvar_epi16((__m512i)codes, (__m512i)a[r]);
+                    acc[r] += multiplyPairs((Vec<int16_t>)taps, weights);
                 });
-            }
-            unroll<rows>([&](auto r) KVRI_INLINE { put(r, toFloats(acc[r]) * unit); });
+                codes += 2 * C * both;
+            });
+            unroll<rows>([&](auto r) KVRI_INLINE { put(r, toNearest(toFloats(acc[r]) * unit)); });
         };
-        eachVector<rows, uint8_t>(pixels * C, sum, out);
+        eachVector<rows, uint8_t, Vec<int32_t>>(pixels * C, sum, out);
     }
 #endif
 
@@ -302,16 +326,16 @@ private:
     }
 
     // sum(s, put) gives put(r, sums from sample s on of row r).
-    template <int rows, class T, class Sum>
-    KVRI_INLINE static void eachVector(int samples, Sum sum, uint8_t* const* out) {
+    template <int rows, class T, class Sum = V, class Sums>
+    KVRI_INLINE static void eachVector(int samples, Sums sum, uint8_t* const* out) {
         int s = 0;
         for (; samples - s >= 4 * lanes; s += 4 * lanes) {
-            V v[rows][4];
-            unroll<4>([&](auto u) KVRI_INLINE { sum(s + u * lanes, [&](auto r, V acc) KVRI_INLINE { v[r][u] = acc; }); });
+            Sum v[rows][4];
+            unroll<4>([&](auto u) KVRI_INLINE { sum(s + u * lanes, [&](auto r, Sum acc) KVRI_INLINE { v[r][u] = acc; }); });
             unroll<rows>([&](auto r) KVRI_INLINE { RowOf<T>(out[r]).four(s, v[r]); });
         }
-        for (; samples - s >= lanes; s += lanes) sum(s, [&](auto r, V acc) KVRI_INLINE { RowOf<T>(out[r]).one(s, acc); });
-        if (s < samples) sum(s, [&](auto r, V acc) KVRI_INLINE { RowOf<T>(out[r]).part(s, acc, samples - s); });
+        for (; samples - s >= lanes; s += lanes) sum(s, [&](auto r, Sum acc) KVRI_INLINE { RowOf<T>(out[r]).one(s, acc); });
+        if (s < samples) sum(s, [&](auto r, Sum acc) KVRI_INLINE { RowOf<T>(out[r]).part(s, acc, samples - s); });
     }
 
     // Single channel: as many pixels as 16 bytes hold, their taps loaded pixel by pixel and transposed.
