@@ -16,7 +16,7 @@ namespace kvri {
 namespace {
 
 // Rows between the passes that the stack has room for; of more, the caller's buffer holds as many as a pixel has taps.
-constexpr int kRingRows = 12;
+constexpr int kRingRows = 8;
 
 template <class T, int C>
 class Resizer {
@@ -148,14 +148,14 @@ private:
         int held[kResizeRowGroup];
 
         Ring(const ResizeTile& tile, int taps, ptrdiff_t samples, F* here) : rows(here), step(kStripSamples), slots(kRingRows), low(tile.rows.low) {
-            if (taps + kGroupRows > kRingRows) {
+            if (taps > kRingRows) {
                 rows = reinterpret_cast<F*>(tile.buffer + (-reinterpret_cast<uintptr_t>(tile.buffer) & 63));
                 step = upTo32(samples * ptrdiff_t(sizeof(F))) / ptrdiff_t(sizeof(F));
                 slots = taps;
             }
             std::fill(held, held + slots, INT_MIN);
         }
-        int slot(int row) const { return (row - low) % slots; }
+        int slot(int row) const { return slots == kRingRows ? (row - low) % kRingRows : (row - low) % slots; }
         uint8_t* place(int row) const { return reinterpret_cast<uint8_t*>(rows + slot(row) * step); }
     };
 

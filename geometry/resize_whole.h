@@ -33,11 +33,11 @@ public:
         for (int j = 0; j <= sources_; ++j) row_[j] = rowAt(std::min(first + j, end - 1));
         for (int r = 0; r < rows; ++r) {
             const int begin = spec.firstTap(y, position + r) - first;
-            const float* weight = spec.table<float>(y.weights) + ptrdiff_t((position + r) % y.period) * y.positionStride;
-            const auto whole = [&](int t) { return t < y.taps ? int(weight[t] * float(1 << y.wholeBits)) & 255 : 0; };
+            uint16_t pair[kWholeTaps / 2];
+            wholePairs(spec.table<float>(y.weights) + ptrdiff_t((position + r) % y.period) * y.positionStride, y, pair);
             for (int t = 0; t < y.taps; t += 2) {
                 used_[begin + t] |= uint8_t(1 << r);
-                pair_[begin + t][r] = (whole(t) | whole(t + 1) << 8) * 0x10001;
+                pair_[begin + t][r] = int32_t(pair[t / 2] * 0x10001u);
             }
         }
     }
@@ -53,6 +53,13 @@ public:
     }
 
 private:
+    static void wholePairs(const float* weight, const ResizeAxis& y, uint16_t (&pair)[kWholeTaps / 2]) {
+        using Eight = Vec<float, 32>;
+        const auto w = loadPart<Eight>(reinterpret_cast<const uint8_t*>(weight), y.taps * ptrdiff_t(sizeof(float)));
+        const __m128i bytes = _mm256_cvtepi32_epi8((__m256i)towardZero(w * float(1 << y.wholeBits)));
+        _mm_storel_epi64(reinterpret_cast<__m128i*>(pair), bytes);
+    }
+
     template <class Load>
     KVRI_INLINE void block(ptrdiff_t i, int16_t* out, ptrdiff_t stride, Load loadFrom) const {
         using Words = Vec<uint16_t>;
