@@ -31,7 +31,7 @@ public:
         std::fill_n(used_, sources, uint8_t(0));
         for (int r = 0; r < rows; ++r) {
             const int begin = firstOf(spec, position + r) + from - first;
-            const F* weight = spec.table<F>(spec.y.weights) + ptrdiff_t((position + r) % spec.y.period) * spec.y.positionStride + from;
+            const F* weight = spec.weightsOf<F>(spec.y, position + r) + from;
             for (int t = 0; t < taps; ++t) {
                 used_[begin + t] |= uint8_t(1 << r);
                 weight_[begin + t][r] = weight[t];

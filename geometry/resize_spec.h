@@ -56,11 +56,16 @@ struct ResizeSpec {
 
     int firstTap(const ResizeAxis& a, int i) const {
         const auto* first = table<int32_t>(a.index);
-        return a.period == a.destination ? first[i] : i / a.period * a.reducedSource + first[i % a.period];
+        return i < a.period ? first[i] : i / a.period * a.reducedSource + first[i % a.period];
+    }
+    // The weights of position i, a.tapStride apart.
+    template <class F>
+    const F* weightsOf(const ResizeAxis& a, int i) const {
+        return table<F>(a.weights) + ptrdiff_t(i < a.period ? i : i % a.period) * a.positionStride;
     }
     template <class F>
     F weight(const ResizeAxis& a, int i, int tap) const {
-        return table<F>(a.weights)[ptrdiff_t(i % a.period) * a.positionStride + ptrdiff_t(tap) * a.tapStride];
+        return weightsOf<F>(a, i)[ptrdiff_t(tap) * a.tapStride];
     }
 
     // The source position where a tile that begins at i has its pointer.

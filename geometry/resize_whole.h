@@ -34,7 +34,7 @@ public:
         for (int r = 0; r < rows; ++r) {
             const int begin = spec.firstTap(y, position + r) - first;
             uint16_t pair[kWholeTaps / 2];
-            wholePairs(spec.table<float>(y.weights) + ptrdiff_t((position + r) % y.period) * y.positionStride, y, pair);
+            wholePairs(spec.weightsOf<float>(y, position + r), y, pair);
             for (int t = 0; t < y.taps; t += 2) {
                 used_[begin + t] |= uint8_t(1 << r);
                 pair_[begin + t][r] = int32_t(pair[t / 2] * 0x10001u);
