@@ -300,24 +300,41 @@ private:
 
     template <int Reach, int rows, class T>
     void applyVectors(const F* row, ptrdiff_t rowStride, int samples, int tapStep, uint8_t* const* out) const {
+        switch (perLoad_ >= taps_ ? taps_ : 0) {
+            case 2: return applyTaps<Reach, rows, 2, T>(row, rowStride, samples, tapStep, out);
+            case 4: return applyTaps<Reach, rows, 4, T>(row, rowStride, samples, tapStep, out);
+            default: return applyTaps<Reach, rows, 0, T>(row, rowStride, samples, tapStep, out);
+        }
+    }
+
+    // Taps: their number, where all are picked from the vectors at one place, or 0.
+    template <int Reach, int rows, int Taps, class T>
+    void applyTaps(const F* row, ptrdiff_t rowStride, int samples, int tapStep, uint8_t* const* out) const {
         using Codes = typename Pick::Codes;
         const Codes next = splat<Codes>(Pick::step(tapStep));
         const auto sum = [&](int s, auto put) KVRI_INLINE {
             const F *p = row + base_[s / lanes], *w = weights_ + s;
             const auto begin = loadedOnce(load<Codes>(code_ + s));
-            V acc[rows];
+            V acc[rows], a[rows], b[rows];
             unroll<rows>([&](auto r) KVRI_INLINE { acc[r] = splat<V>(F(-0.0)); });
-            for (int first = 0; first < taps_; first += perLoad_) {
-                V a[rows], b[rows];
+            const auto loadFrom = [&](int tap) KVRI_INLINE {
                 unroll<rows>([&](auto r) KVRI_INLINE {
-                    a[r] = loadedOnce(load<V>(p + r * rowStride + first * tapStep));
-                    b[r] = Reach == 1 ? a[r] : loadedOnce(load<V>(p + r * rowStride + first * tapStep + lanes));
+                    a[r] = loadedOnce(load<V>(p + r * rowStride + tap * tapStep));
+                    b[r] = Reach == 1 ? a[r] : loadedOnce(load<V>(p + r * rowStride + tap * tapStep + lanes));
                 });
-                Codes codes = begin;
-                const int end = std::min(first + perLoad_, taps_);
-                for (int t = first; t < end; ++t, codes += next) {
-                    const V weight = loadedOnce(load<V>(w + ptrdiff_t(t) * stride_));
-                    unroll<rows>([&](auto r) KVRI_INLINE { acc[r] = acc[r] + Pick::template pick<Reach>(a[r], b[r], codes) * weight; });
+            };
+            const auto add = [&](int tap, Codes codes) KVRI_INLINE {
+                const V weight = loadedOnce(load<V>(w + ptrdiff_t(tap) * stride_));
+                unroll<rows>([&](auto r) KVRI_INLINE { acc[r] = acc[r] + Pick::template pick<Reach>(a[r], b[r], codes) * weight; });
+            };
+            Codes codes = begin;
+            if constexpr (Taps > 0) {
+                loadFrom(0);
+                unroll<Taps>([&](auto t) KVRI_INLINE { add(t, codes), codes += next; });
+            } else {
+                for (int first = 0; first < taps_; first += perLoad_, codes = begin) {
+                    loadFrom(first);
+                    for (int t = first; t < std::min(first + perLoad_, taps_); ++t, codes += next) add(t, codes);
                 }
             }
             unroll<rows>([&](auto r) KVRI_INLINE { put(r, acc[r]); });
