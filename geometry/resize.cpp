@@ -8,6 +8,7 @@
 #include "core/fpcontrol.h"
 #include "core/layout.h"
 #include "geometry/resize_apply.h"
+#include "geometry/resize_double.h"
 #include "geometry/resize_halve.h"
 #include "geometry/resize_strip.h"
 #include "geometry/resize_whole.h"
@@ -246,6 +247,8 @@ KvrStatus resize(const T* pSrc, int srcStep, T* pDst, int dstStep, KvriPoint dst
         if constexpr (std::is_integral_v<T> && (Method == kvrInterpLinear || Method == kvrInterpSuper))
             if (halves(tile.spec)) return Halver<T, L::channels, Ties::Even>::run(tile);
         const DefaultFloatControl control;
+        if constexpr (!isDouble && sizeof(T) > 1 && Method == kvrInterpLinear)
+            if (doubles(tile)) return Doubler<T, L::channels>(tile).run();
         Resizer<T, L::channels>(tile).run();
     };
     return applyResize<L::channels>(accepts, run, pSrc, srcStep, pDst, dstStep, dstOffset, dstSize, border, pSpec, pBuffer);
