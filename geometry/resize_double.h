@@ -23,7 +23,7 @@ class Doubler {
     static constexpr ptrdiff_t pixelBytes = C * sizeof(T);
 
     const ResizeTile& tile_;
-    alignas(64) float row_[C + most * C + 2 * lanes];  // source pixels and one on either side
+    alignas(64) float rows_[2][C + most * C + 2 * lanes];  // two source rows: pixels and one on either side
     alignas(64) float upper_[2 * most * C / taken * lanes + 4 * lanes];  // the source row above, resized along, as it came in vectors
 
 public:
@@ -47,26 +47,26 @@ private:
     void strip(int first, int width) {
         const int columns = (width + 1) / 2, x = 2 * first - tile_.offset.x, begin = tile_.offset.y, end = begin + tile_.size.height;
         const int top = (begin + 1) / 2 - 1;  // the upper source row of the first destination row
+        fetch(top, first, columns);
+        fetch(top + 1, first, columns);
+        resizeRow(top, columns, [&](int s, V a, V b) KVRI_INLINE { store(upper(s), a), store(upper(s) + lanes, b); });
         for (int source = top; 2 * source < end - 1; ++source) {
-            if (source == top) resizeRow(source, first, columns, [&](int s, V a, V b) KVRI_INLINE { store(upper(s), a), store(upper(s) + lanes, b); });
+            if (2 * source < end - 3) fetch(source + 2, first, columns);  // well before its use
             const int y = 2 * source + 1 - begin;  // of the two destination rows between this source row and the next
             const RowOf<T> odd(tile_.destination(y, x, pixelBytes)), even(tile_.destination(y + 1, x, pixelBytes));
             const int samples = width * C;
-            if (y < 0) resizeRow(source + 1, first, columns, [&](int s, V a, V b) KVRI_INLINE { between<streams, false, true>(s, a, b, odd, even, samples); });
-            else if (y + 1 == tile_.size.height) resizeRow(source + 1, first, columns, [&](int s, V a, V b) KVRI_INLINE { between<streams, true, false>(s, a, b, odd, even, samples); });
-            else resizeRow(source + 1, first, columns, [&](int s, V a, V b) KVRI_INLINE { between<streams, true, true>(s, a, b, odd, even, samples); });
+            if (y < 0) resizeRow(source + 1, columns, [&](int s, V a, V b) KVRI_INLINE { between<streams, false, true>(s, a, b, odd, even, samples); });
+            else if (y + 1 == tile_.size.height) resizeRow(source + 1, columns, [&](int s, V a, V b) KVRI_INLINE { between<streams, true, false>(s, a, b, odd, even, samples); });
+            else resizeRow(source + 1, columns, [&](int s, V a, V b) KVRI_INLINE { between<streams, true, true>(s, a, b, odd, even, samples); });
         }
     }
 
     // Two vectors a, b of a source row below upper_, which they replace.
     template <bool streams, bool hasOdd, bool hasEven>
     KVRI_INLINE void between(int s, V a, V b, const RowOf<T>& odd, const RowOf<T>& even, int samples) {
-        const V above[] = {load<V>(upper(s)), load<V>(upper(s) + lanes)}, below[] = {a, b};
-        unroll<2>([&](auto k) KVRI_INLINE {
-            const int at = s + k * lanes;
-            if (hasOdd) put<streams>(odd, at, above[k] * 0.75f + below[k] * 0.25f, samples - at);
-            if (hasEven) put<streams>(even, at, above[k] * 0.25f + below[k] * 0.75f, samples - at);
-        });
+        const V c = load<V>(upper(s)), d = load<V>(upper(s) + lanes);
+        if (hasOdd) put<streams>(odd, s, c * 0.75f + a * 0.25f, d * 0.75f + b * 0.25f, samples - s);
+        if (hasEven) put<streams>(even, s, c * 0.25f + a * 0.75f, d * 0.25f + b * 0.75f, samples - s);
         store(upper(s), a);
         store(upper(s) + lanes, b);
     }
@@ -74,25 +74,38 @@ private:
     float* upper(int s) { return upper_ + s / taken * lanes; }
 
     template <bool streams>
-    static void put(const RowOf<T>& row, int at, V v, int samples) {
-        if (samples >= lanes) {
-            if constexpr (streams) stream(row.p + ptrdiff_t(at) * ptrdiff_t(sizeof(T)), fromReals<T>(v));
-            else row.one(at, v);
+    KVRI_INLINE static void put(const RowOf<T>& row, int at, V a, V b, int samples) {
+        const auto write = [&](ptrdiff_t behind, Bytes<> v) KVRI_INLINE {
+            uint8_t* p = row.p + ptrdiff_t(at) * ptrdiff_t(sizeof(T)) + behind;
+            if constexpr (streams) stream(p, v);
+            else store(p, v);
+        };
+        if (samples >= 2 * lanes) {
+            if constexpr (sizeof(T) == 4) write(0, (Bytes<>)a), write(kVectorBytes, (Bytes<>)b);
+            else write(0, packedWords<T>(toNearest(a), toNearest(b)));
+        } else if (samples > lanes) {
+            row.one(at, a);
+            row.part(at + lanes, b, samples - lanes);
+        } else {
+            row.part(at, a, samples);
         }
-        else if (samples > 0) row.part(at, v, samples);
+    }
+
+    void fetch(int row, int first, int columns) {
+        float* p = rows_[row & 1];
+        const int low = tile_.columns(first - 1), high = tile_.columns(first + columns);
+        convertRow<T>(tile_.source(tile_.rows(row), low, pixelBytes), (high - low + 1) * C, RowOf<float>(p + (low - first + 1) * C));
+        if (low == first) std::copy_n(p + C, C, p);
+        if (high < first + columns) std::copy_n(p + columns * C, C, p + (columns + 1) * C);
     }
 
     // give(s, samples from 2 * taken * n on in two vectors): what is there behind 2 * taken of them is given again.
     template <class Give>
-    KVRI_INLINE void resizeRow(int row, int first, int columns, Give give) {
-        row = tile_.rows(row);
-        const int low = tile_.columns(first - 1), high = tile_.columns(first + columns);
-        convertRow<T>(tile_.source(row, low, pixelBytes), (high - low + 1) * C, RowOf<float>(row_ + (low - first + 1) * C));
-        if (low == first) std::copy_n(row_ + C, C, row_);
-        if (high < first + columns) std::copy_n(row_ + columns * C, C, row_ + (columns + 1) * C);
+    KVRI_INLINE void resizeRow(int row, int columns, Give give) const {
+        const float* p = rows_[row & 1];
         for (int s = 0; s < columns * C; s += taken) {
-            const V middle = load<V>(row_ + s + C) * 0.75f;
-            const V even = load<V>(row_ + s) * 0.25f + middle, odd = middle + load<V>(row_ + s + 2 * C) * 0.25f;
+            const V middle = load<V>(p + s + C) * 0.75f;
+            const V even = load<V>(p + s) * 0.25f + middle, odd = middle + load<V>(p + s + 2 * C) * 0.25f;
             give(2 * s, Pick::template pick<2>(even, odd, interleaving<0>()), Pick::template pick<2>(even, odd, interleaving<1>()));
         }
     }

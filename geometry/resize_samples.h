@@ -108,6 +108,14 @@ inline void storeRealsPart(uint8_t* p, V v, ptrdiff_t samples) {
 
 constexpr int kLanes = kVectorBytes / 16;
 
+// Two vectors as one of 16-bit numbers.
+template <class T, class V>
+inline Bytes<> packedWords(V a, V b) {
+    const auto words = (Bytes<>)narrow<T>(toIntegers(a), toIntegers(b));
+    if constexpr (kLanes == 1) return words;
+    else return permute4(words, [](int i) { return (i / 2 % kLanes * 2 + i / 2 / kLanes) * 2 + i % 2; });
+}
+
 // Four vectors at once: packing works lane by lane, and one permutation puts all of it in order. put(place, vector) stores.
 template <class T, class V, class Put>
 inline void putFourReals(uint8_t* p, const V (&v)[4], Put put) {
@@ -117,11 +125,7 @@ inline void putFourReals(uint8_t* p, const V (&v)[4], Put put) {
         if constexpr (kLanes == 1) put(p, bytes);
         else put(p, permute4(bytes, [](int i) { return i % kLanes * 4 + i / kLanes; }));
     } else if constexpr (sizeof(T) == 2) {
-        unroll<2>([&](auto half) KVRI_INLINE {
-            const auto words = (Bytes<>)narrow<T>(toIntegers(v[2 * half]), toIntegers(v[2 * half + 1]));
-            if constexpr (kLanes == 1) put(p + half * kVectorBytes, words);
-            else put(p + half * kVectorBytes, permute4(words, [](int i) { return (i / 2 % kLanes * 2 + i / 2 / kLanes) * 2 + i % 2; }));
-        });
+        unroll<2>([&](auto half) KVRI_INLINE { put(p + half * kVectorBytes, packedWords<T>(v[2 * half], v[2 * half + 1])); });
     } else {
         unroll<4>([&](auto i) KVRI_INLINE { put(p + i * kVectorBytes, (Bytes<>)v[i]); });
     }
