@@ -75,7 +75,7 @@ struct TransposedBlock {
 
     static KVRI_INLINE void run(const uint8_t* src, ptrdiff_t step, auto, auto put) {
         V v[columns];
-        Rows low(src, step), high(src + columns * step, step);
+        Rows low(src, step), high(W == 16 ? src : src + columns * step, step);
         unroll<columns>([&](auto i) KVRI_INLINE { v[i] = loadLanes<V>(low.template at<i>(), high.template at<i>()); });
         zipRows<B>(v);
         unroll<columns>([&](auto i) KVRI_INLINE { put(i, std::integral_constant<int, 0>{}, v[i]); });
@@ -133,7 +133,7 @@ private:
 public:
     static KVRI_INLINE void run(const uint8_t* src, ptrdiff_t step, auto edge, auto put) {
         V groups[columns][4];
-        Rows low(src, step), high(src + 4 * N * step, step);
+        Rows low(src, step), high(W == 16 ? src : src + 4 * N * step, step);
         unroll<4>([&](auto k) KVRI_INLINE {
             V v[N];
             unroll<N>([&](auto i) KVRI_INLINE { v[i] = loadWords(low.template at<k * N + i>(), high.template at<k * N + i>(), edge); });
@@ -303,16 +303,16 @@ void transposeTiles(const uint8_t* src, ptrdiff_t srcStep, uint8_t* dst, ptrdiff
 }
 
 template <int B, int Chosen = B>
-void transposeImage(const Image<const uint8_t>& src, const Image<uint8_t>& dst, KvriSize roi) {
+void transposeImage(const uint8_t* src, ptrdiff_t srcStep, uint8_t* dst, ptrdiff_t dstStep, KvriSize roi) {
     using Narrow = TransposedBlock<B, 16>;
     constexpr ptrdiff_t fitsFirstCache = 16384, worthTiles = 49152;  // smaller ones are near enough in the first two caches
     const ptrdiff_t columns = roi.width, rows = roi.height, bytes = columns * rows * B;
     if (bytes > worthTiles && columns >= Narrow::columns && rows >= Narrow::rows)
-        transposeTiles<B, Chosen>(src.row, src.step, dst.row, dst.step, columns, rows, exceedsCache(roi, 4 * B));
+        transposeTiles<B, Chosen>(src, srcStep, dst, dstStep, columns, rows, exceedsCache(roi, 4 * B));
     else if (bytes <= fitsFirstCache)
-        transposeRegion<B, Chosen, Order::Rows>(src.row, src.step, dst.row, dst.step, columns, rows);
+        transposeRegion<B, Chosen, Order::Rows>(src, srcStep, dst, dstStep, columns, rows);
     else
-        transposeRegion<B, Chosen>(src.row, src.step, dst.row, dst.step, columns, rows);
+        transposeRegion<B, Chosen>(src, srcStep, dst, dstStep, columns, rows);
 }
 
 // Square tiles change places in pairs.
