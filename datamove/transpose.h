@@ -236,20 +236,25 @@ KVRI_INLINE inline void transposeRegion(const uint8_t* src, ptrdiff_t srcStep, u
 // Large images go tile by tile, each copied row by row into memory first: there its rows do not compete for places in the
 // cache, as those of an image do where its step is a multiple of a large power of two. Rows and columns of a tile are some
 // cache lines long.
-template <int B>
-struct Tile {
-    static constexpr ptrdiff_t rows = B <= 2 || B == 4 ? 128 : B <= 8 ? 64 : 16;
-    static constexpr ptrdiff_t columns = B == 1 ? 128 : B <= 6 ? 64 : B == 8 ? 32 : 16;
-    static constexpr ptrdiff_t step = columns * B, bytes = rows * step;
+template <int B, int Rows, int Columns>
+struct TileOf {
+    static constexpr ptrdiff_t rows = Rows, columns = Columns, step = columns * B, bytes = rows * step;
 };
 
 template <int B>
-KVRI_INLINE inline void takeTile(const uint8_t* src, ptrdiff_t srcStep, uint8_t* tile, ptrdiff_t columns, ptrdiff_t rows) {
+using Tile = TileOf<B, B <= 2 || B == 4 ? 128 : B <= 8 ? 64 : 16, B == 1 ? 128 : B <= 6 ? 64 : B == 8 ? 32 : 16>;
+
+// From memory and past the caches: few lines of a source row, so that a destination row gets more of them at a time.
+template <int B>
+using StreamedTile = TileOf<B, B == 3 || B == 6 ? 64 : B <= 4 ? 256 / B : 16, B == 3 || B == 6 ? 64 : B <= 4 ? 64 / B : 16>;
+
+template <class T>
+KVRI_INLINE inline void takeTile(const uint8_t* src, ptrdiff_t srcStep, uint8_t* tile, ptrdiff_t rowBytes, ptrdiff_t rows) {
     const auto take = [&](ptrdiff_t bytes) KVRI_INLINE {
-        for (ptrdiff_t y = 0; y < rows; ++y) copyRow(src + y * srcStep, tile + y * Tile<B>::step, bytes);
+        for (ptrdiff_t y = 0; y < rows; ++y) copyRow(src + y * srcStep, tile + y * T::step, bytes);
     };
-    if (columns == Tile<B>::columns) take(Tile<B>::step);
-    else take(columns * B);
+    if (rowBytes == T::step) take(T::step);
+    else take(rowBytes);
 }
 
 // Into the second-level cache: a tile's rows may have few places in the first.
@@ -271,7 +276,7 @@ void eachTile(ptrdiff_t columns, ptrdiff_t rows, ptrdiff_t tileColumns, ptrdiff_
 // Whole tiles whose destination rows are whole cache lines, past the caches.
 template <int B>
 void streamTile(const uint8_t* tile, uint8_t* dst, ptrdiff_t dstStep) {
-    using T = Tile<B>;
+    using T = StreamedTile<B>;
     constexpr int row = T::rows * B;
     alignas(64) uint8_t turned[T::bytes];
     transposeRegion<B, B>(tile, T::step, turned, row, T::columns, T::rows);
@@ -279,12 +284,11 @@ void streamTile(const uint8_t* tile, uint8_t* dst, ptrdiff_t dstStep) {
         for (int i = 0; i < row; i += kVectorBytes) stream(dst + x * dstStep + i, load<Bytes<>>(turned + x * row + i));
 }
 
-// `far`: beyond the caches. There is at least a block.
-template <int B, int Chosen>
+// There is at least a block. `far`: beyond the caches.
+template <int B, int Chosen, bool streamed>
 void transposeTiles(const uint8_t* src, ptrdiff_t srcStep, uint8_t* dst, ptrdiff_t dstStep, ptrdiff_t columns, ptrdiff_t rows, bool far) {
     using Narrow = TransposedBlock<B, 16>;
-    using T = Tile<B>;
-    const bool streamed = far && Chosen == B && (reinterpret_cast<uintptr_t>(dst) | uintptr_t(dstStep)) % 64 == 0;
+    using T = std::conditional_t<streamed, StreamedTile<B>, Tile<B>>;
     alignas(64) uint8_t tile[T::bytes];
     eachTile(columns, rows, T::columns, T::rows, [&](ptrdiff_t x, ptrdiff_t y) {
         // What is left at the end is at least a block, be it one that is partly done.
@@ -294,10 +298,11 @@ void transposeTiles(const uint8_t* src, ptrdiff_t srcStep, uint8_t* dst, ptrdiff
         const uint8_t* s = src + y * srcStep + x * B;
         uint8_t* d = dst + x * dstStep + y * B;
         if (far && !streamedTile) prefetchRows(d, dstStep, height * B, width);
-        takeTile<B>(s, srcStep, tile, width, height);
+        takeTile<T>(s, srcStep, tile, width * B, height);
         if (far) prefetchRows(s + T::step, srcStep, T::step, height);
-        if (streamedTile) streamTile<B>(tile, d, dstStep);
-        else transposeRegion<B, Chosen>(tile, T::step, d, dstStep, width, height);
+        if constexpr (streamed)
+            if (streamedTile) return streamTile<B>(tile, d, dstStep);
+        transposeRegion<B, Chosen>(tile, T::step, d, dstStep, width, height);
     });
     if (streamed) fenceStreams();
 }
@@ -307,9 +312,12 @@ void transposeImage(const uint8_t* src, ptrdiff_t srcStep, uint8_t* dst, ptrdiff
     using Narrow = TransposedBlock<B, 16>;
     constexpr ptrdiff_t fitsFirstCache = 16384, worthTiles = 49152;  // smaller ones are near enough in the first two caches
     const ptrdiff_t columns = roi.width, rows = roi.height, bytes = columns * rows * B;
-    if (bytes > worthTiles && columns >= Narrow::columns && rows >= Narrow::rows)
-        transposeTiles<B, Chosen>(src, srcStep, dst, dstStep, columns, rows, exceedsCache(roi, 4 * B));
-    else if (bytes <= fitsFirstCache)
+    if (bytes > worthTiles && columns >= Narrow::columns && rows >= Narrow::rows) {
+        const bool far = exceedsCache(roi, 4 * B);
+        if (far && Chosen == B && (reinterpret_cast<uintptr_t>(dst) | uintptr_t(dstStep)) % 64 == 0)
+            return transposeTiles<B, Chosen, true>(src, srcStep, dst, dstStep, columns, rows, true);
+        transposeTiles<B, Chosen, false>(src, srcStep, dst, dstStep, columns, rows, far);
+    } else if (bytes <= fitsFirstCache)
         transposeRegion<B, Chosen, Order::Rows>(src, srcStep, dst, dstStep, columns, rows);
     else
         transposeRegion<B, Chosen>(src, srcStep, dst, dstStep, columns, rows);
@@ -326,7 +334,7 @@ void transposeInPlace(uint8_t* image, ptrdiff_t step, ptrdiff_t size) {
         const ptrdiff_t width = std::min(size - x, T::columns), height = std::min(size - y, T::columns);
         uint8_t *right = image + y * step + x * B, *below = image + x * step + y * B;
         if (far) prefetchRows(below, step, height * B, width);
-        takeTile<B>(right, step, tile, width, height);
+        takeTile<T>(right, step, tile, width * B, height);
         if (x > y) transposeRegion<B, B>(below, step, right, step, height, width);
         transposeRegion<B, B>(tile, T::step, below, step, width, height);
     });
