@@ -246,7 +246,8 @@ using Tile = TileOf<B, B <= 2 || B == 4 ? 128 : B <= 8 ? 64 : 16, B == 1 ? 128 :
 
 // From memory and past the caches: few lines of a source row, so that a destination row gets more of them at a time.
 template <int B>
-using StreamedTile = TileOf<B, B == 3 || B == 6 ? 64 : B <= 4 ? 256 / B : 16, B == 3 || B == 6 ? 64 : B <= 4 ? 64 / B : 16>;
+using StreamedTile = TileOf<B, B == 3 || B == 6 ? 64 : B <= 4 ? 256 / B : B == 8 ? 32 : 16,
+                            B == 3 || B == 6 ? 64 : B <= 4 ? 64 / B : B == 8 ? 32 : 16>;
 
 template <class T>
 KVRI_INLINE inline void takeTile(const uint8_t* src, ptrdiff_t srcStep, uint8_t* tile, ptrdiff_t rowBytes, ptrdiff_t rows) {
