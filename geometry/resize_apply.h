@@ -79,7 +79,7 @@ KvrStatus applyResize(const Accepts& accepts, Run run, const T* pSrc, int srcSte
     if (KvrStatus e = carriesId(pSpec, accepts.id)) return e;
     if (KvrStatus e = firstError(hasPixels(dstSize), insideDestination(spec, dstOffset), accepts(spec), borderSupported(border))) return e;
     const KvriSize size = clipped(spec, dstOffset, dstSize);
-    const bool streams = exceedsCache(size, pixelBytes);
+    const bool streams = exceedsCache(size, 4 * pixelBytes);
     run(ResizeTile{spec,
                    reinterpret_cast<const uint8_t*>(pSrc),
                    srcStep,
