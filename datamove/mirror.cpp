@@ -113,8 +113,10 @@ KvrStatus mirrorDiagonally(const void* pSrc, int srcStep, void* pDst, int dstSte
     const auto src = source<B>(pSrc, srcStep);
     const auto dst = destination<B>(pDst, dstStep);
     if (KvrStatus e = disjoint(src, dst, roi)) return e;
-    if (axis == kvrAxisMainDiagonal) transposeImage<B, Chosen>(src, dst, roi);
-    else transposeImage<B, Chosen>(upsideDown(src, roi.height), upsideDown(dst, roi.width), roi);
+    const bool anti = axis == kvrAxisAntiDiagonal;
+    const auto from = anti ? upsideDown(src, roi.height) : src;
+    const auto to = anti ? upsideDown(dst, roi.width) : dst;
+    transposeImage<B, Chosen>(from.row, from.step, to.row, to.step, roi);
     return kvrStatusOk;
 }
 

@@ -23,7 +23,7 @@ KvrStatus transposed(const T* pSrc, int srcStep, T* pDst, int dstStep, KvriSize 
     if (pSrc == pDst && srcStep == dstStep) return transposedInPlace<T, L>(pDst, dstStep, roi);
     if (KvrStatus e = firstError(nonNull(pSrc, pDst), hasPixels(roi))) return e;
     constexpr int B = sizeof(T) * L::channels;
-    transposeImage<B>(source<B>(pSrc, srcStep), destination<B>(pDst, dstStep), roi);
+    transposeImage<B>(reinterpret_cast<const uint8_t*>(pSrc), srcStep, reinterpret_cast<uint8_t*>(pDst), dstStep, roi);
     return kvrStatusOk;
 }
 

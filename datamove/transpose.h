@@ -38,20 +38,31 @@ KVRI_INLINE inline void zipRows(V (&v)[N]) {
     }
 }
 
-// On to the next row. Opaque, as the compiler would otherwise keep the addresses of all of a block's rows, which are more
-// than it has registers; a short v it must have loaded before.
+// Rows one after the other, four from each address that is formed. Opaque, as the compiler would otherwise form the
+// addresses of all of a block's rows ahead, which are more than it has registers.
 template <class T>
-KVRI_INLINE inline void nextRow(T*& row, ptrdiff_t step) {
-    row += step;
-    asm("" : "+r"(row));
-}
+class Rows {
+    T* row_;
+    const ptrdiff_t step_, three_;
 
-template <class V>
-KVRI_INLINE inline void nextRow(const uint8_t*& row, ptrdiff_t step, V& v) {
-    row += step;
-    if constexpr (sizeof v == 16) asm("" : "+r"(row), "+x"(v));
-    else asm("" : "+r"(row));
-}
+    static KVRI_INLINE ptrdiff_t threefold(ptrdiff_t step) {
+        ptrdiff_t three = 3 * step;
+        asm("" : "+r"(three));
+        return three;
+    }
+
+public:
+    KVRI_INLINE Rows(T* row, ptrdiff_t step) : row_(row), step_(step), three_(threefold(step)) {}
+
+    template <int i>
+    KVRI_INLINE T* at() {
+        if constexpr (i > 0 && i % 4 == 0) {
+            row_ += 4 * step_;
+            asm("" : "+r"(row_));
+        }
+        return row_ + (i % 4 == 3 ? three_ : i % 4 * step_);
+    }
+};
 
 // run(src, step, edge, put) transposes the block at src: put(column, j, v) takes vector j of a destination row, row by
 // row. Reads up to
@@ -64,11 +75,8 @@ struct TransposedBlock {
 
     static KVRI_INLINE void run(const uint8_t* src, ptrdiff_t step, auto, auto put) {
         V v[columns];
-        const ptrdiff_t lane = columns * step;
-        unroll<columns>([&](auto i) KVRI_INLINE {
-            v[i] = loadLanes<V>(src, src + lane);
-            nextRow(src, step, v[i]);
-        });
+        Rows low(src, step), high(W == 16 ? src : src + columns * step, step);
+        unroll<columns>([&](auto i) KVRI_INLINE { v[i] = loadLanes<V>(low.template at<i>(), high.template at<i>()); });
         zipRows<B>(v);
         unroll<columns>([&](auto i) KVRI_INLINE { put(i, std::integral_constant<int, 0>{}, v[i]); });
     }
@@ -125,13 +133,10 @@ private:
 public:
     static KVRI_INLINE void run(const uint8_t* src, ptrdiff_t step, auto edge, auto put) {
         V groups[columns][4];
-        const ptrdiff_t lane = 4 * N * step;
+        Rows low(src, step), high(W == 16 ? src : src + 4 * N * step, step);
         unroll<4>([&](auto k) KVRI_INLINE {
             V v[N];
-            unroll<N>([&](auto i) KVRI_INLINE {
-                v[i] = loadWords(src, src + lane, edge);
-                nextRow(src, step, v[i]);
-            });
+            unroll<N>([&](auto i) KVRI_INLINE { v[i] = loadWords(low.template at<k * N + i>(), high.template at<k * N + i>(), edge); });
             zipRows<4>(v);
             unroll<columns>([&](auto c) KVRI_INLINE { groups[c][k] = group<c, k>(column<c>(v)); });
         });
@@ -151,25 +156,49 @@ KVRI_INLINE inline void storePixels(auto block, uint8_t* p, V v, ptrdiff_t bytes
 
 // Addresses are passed one by one: records of them would travel through memory, in pieces of other sizes than they are read.
 
-// In blocks of vectors of W bytes; there is at least one.
-template <int B, int Chosen, int W>
-void transposeBlocks(const uint8_t* src, ptrdiff_t srcStep, uint8_t* dst, ptrdiff_t dstStep, ptrdiff_t columns, ptrdiff_t rows) {
+// Which blocks follow each other: those of the same columns fill the lines of a few destination rows, as the caches like it;
+// where they hold both images, blocks of the same rows take turns faster.
+enum class Order { Columns, Rows };
+
+// So many blocks of vectors of W bytes side by side and one below the other. Not inlined, as addresses and steps are to have
+// all registers.
+template <int B, int Chosen, int W, Order order, bool atEdge>
+__attribute__((noinline)) void transposeBlocks(const uint8_t* src, ptrdiff_t srcStep, uint8_t* dst, ptrdiff_t dstStep, ptrdiff_t across,
+                                               ptrdiff_t down) {
     using T = TransposedBlock<B, W>;
-    const auto at = [&](ptrdiff_t x, ptrdiff_t y, auto edge) KVRI_INLINE {
-        uint8_t* row = dst + x * dstStep + y * B;
-        T::run(src + y * srcStep + x * B, srcStep, edge, [&](auto, auto j, auto v) KVRI_INLINE {
-            storePixels<B, Chosen>(WholeBlock{}, row + j * W, v, W);
-            if constexpr (j == T::vectors - 1) nextRow(row, dstStep);
-        });
+    constexpr bool byRows = order == Order::Rows;
+    const ptrdiff_t srcAcross = T::columns * B, dstAcross = T::columns * dstStep, srcDown = T::rows * srcStep, dstDown = T::rows * B;
+    for (ptrdiff_t outer = byRows ? down : across; outer > 0; --outer) {
+        const uint8_t* s = src;
+        uint8_t* d = dst;
+        for (ptrdiff_t inner = byRows ? across : down; inner > 0; --inner) {
+            Rows to(d, dstStep);
+            uint8_t* row = nullptr;
+            T::run(s, srcStep, std::bool_constant<atEdge>{}, [&](auto column, auto j, auto v) KVRI_INLINE {
+                if constexpr (j == 0) row = to.template at<column>();
+                storePixels<B, Chosen>(WholeBlock{}, row + j * W, v, W);
+            });
+            s += byRows ? srcAcross : srcDown, d += byRows ? dstAcross : dstDown;
+            asm("" : "+r"(s), "+r"(d));
+        }
+        src += byRows ? srcDown : srcAcross, dst += byRows ? dstDown : dstAcross;
+    }
+}
+
+// There is at least a block. The last ones of rows and columns reach back.
+template <int B, int Chosen, int W, Order order>
+void transposeBy(const uint8_t* src, ptrdiff_t srcStep, uint8_t* dst, ptrdiff_t dstStep, ptrdiff_t columns, ptrdiff_t rows) {
+    using T = TransposedBlock<B, W>;
+    const auto from = [&](ptrdiff_t x, ptrdiff_t across, auto edge) KVRI_INLINE {
+        const auto at = [&](ptrdiff_t y, ptrdiff_t down) KVRI_INLINE {
+            transposeBlocks<B, Chosen, W, order, edge>(src + y * srcStep + x * B, srcStep, dst + x * dstStep + y * B, dstStep, across, down);
+        };
+        at(0, rows / T::rows);
+        if (rows % T::rows != 0) at(rows - T::rows, 1);
     };
-    const auto columnsFrom = [&](ptrdiff_t x, auto edge) KVRI_INLINE {
-        ptrdiff_t y = 0;
-        for (; y <= rows - T::rows; y += T::rows) at(x, y, edge);
-        if (y < rows) at(x, rows - T::rows, edge);
-    };
-    ptrdiff_t x = 0;
-    for (; columns - x >= T::readable; x += T::columns) columnsFrom(x, std::false_type{});
-    for (; x < columns; x += T::columns) columnsFrom(std::min(x, columns - T::columns), T::edge);
+    ptrdiff_t x = std::max<ptrdiff_t>(columns - (T::readable - T::columns), 0) / T::columns * T::columns;
+    if (x > 0) from(0, x / T::columns, std::false_type{});
+    for (; x < columns; x += T::columns) from(std::min(x, columns - T::columns), 1, T::edge);
 }
 
 // Through scratch of whole blocks.
@@ -191,7 +220,7 @@ void transposeNarrow(const uint8_t* src, ptrdiff_t srcStep, uint8_t* dst, ptrdif
         }
 }
 
-template <int B, int Chosen>
+template <int B, int Chosen, Order order = Order::Columns>
 KVRI_INLINE inline void transposeRegion(const uint8_t* src, ptrdiff_t srcStep, uint8_t* dst, ptrdiff_t dstStep, ptrdiff_t columns,
                                         ptrdiff_t rows) {
     using Narrow = TransposedBlock<B, 16>;
@@ -199,27 +228,34 @@ KVRI_INLINE inline void transposeRegion(const uint8_t* src, ptrdiff_t srcStep, u
     if (columns < Narrow::columns || rows < Narrow::rows)
         transposeNarrow<B, Chosen>(src, srcStep, dst, dstStep, columns, rows);
     else if (rows < Wide::rows)
-        transposeBlocks<B, Chosen, 16>(src, srcStep, dst, dstStep, columns, rows);
+        transposeBy<B, Chosen, 16, order>(src, srcStep, dst, dstStep, columns, rows);
     else
-        transposeBlocks<B, Chosen, kShuffleBytes>(src, srcStep, dst, dstStep, columns, rows);
+        transposeBy<B, Chosen, kShuffleBytes, order>(src, srcStep, dst, dstStep, columns, rows);
 }
 
 // Large images go tile by tile, each copied row by row into memory first: there its rows do not compete for places in the
 // cache, as those of an image do where its step is a multiple of a large power of two. Rows and columns of a tile are some
 // cache lines long.
-template <int B>
-struct Tile {
-    static constexpr ptrdiff_t rows = B <= 2 || B == 4 ? 128 : B <= 8 ? 64 : 16, columns = B == 1 ? 128 : B <= 8 ? 64 : 16;
-    static constexpr ptrdiff_t step = columns * B, bytes = rows * step;
+template <int B, int Rows, int Columns>
+struct TileOf {
+    static constexpr ptrdiff_t rows = Rows, columns = Columns, step = columns * B, bytes = rows * step;
 };
 
 template <int B>
-KVRI_INLINE inline void takeTile(const uint8_t* src, ptrdiff_t srcStep, uint8_t* tile, ptrdiff_t columns, ptrdiff_t rows) {
+using Tile = TileOf<B, B <= 2 || B == 4 ? 128 : B <= 8 ? 64 : 16, B == 1 ? 128 : B <= 6 ? 64 : B == 8 ? 32 : 16>;
+
+// From memory and past the caches: few lines of a source row, so that a destination row gets more of them at a time.
+template <int B>
+using StreamedTile = TileOf<B, B == 3 || B == 6 ? 64 : B <= 4 ? 256 / B : B == 8 ? 32 : 16,
+                            B == 3 || B == 6 ? 64 : B <= 4 ? 64 / B : B == 8 ? 32 : 16>;
+
+template <class T>
+KVRI_INLINE inline void takeTile(const uint8_t* src, ptrdiff_t srcStep, uint8_t* tile, ptrdiff_t rowBytes, ptrdiff_t rows) {
     const auto take = [&](ptrdiff_t bytes) KVRI_INLINE {
-        for (ptrdiff_t y = 0; y < rows; ++y) copyRow(src + y * srcStep, tile + y * Tile<B>::step, bytes);
+        for (ptrdiff_t y = 0; y < rows; ++y) copyRow(src + y * srcStep, tile + y * T::step, bytes);
     };
-    if (columns == Tile<B>::columns) take(Tile<B>::step);
-    else take(columns * B);
+    if (rowBytes == T::step) take(T::step);
+    else take(rowBytes);
 }
 
 // Into the second-level cache: a tile's rows may have few places in the first.
@@ -241,7 +277,7 @@ void eachTile(ptrdiff_t columns, ptrdiff_t rows, ptrdiff_t tileColumns, ptrdiff_
 // Whole tiles whose destination rows are whole cache lines, past the caches.
 template <int B>
 void streamTile(const uint8_t* tile, uint8_t* dst, ptrdiff_t dstStep) {
-    using T = Tile<B>;
+    using T = StreamedTile<B>;
     constexpr int row = T::rows * B;
     alignas(64) uint8_t turned[T::bytes];
     transposeRegion<B, B>(tile, T::step, turned, row, T::columns, T::rows);
@@ -249,12 +285,11 @@ void streamTile(const uint8_t* tile, uint8_t* dst, ptrdiff_t dstStep) {
         for (int i = 0; i < row; i += kVectorBytes) stream(dst + x * dstStep + i, load<Bytes<>>(turned + x * row + i));
 }
 
-// `far`: beyond the caches. There is at least a block.
-template <int B, int Chosen>
+// There is at least a block. `far`: beyond the caches.
+template <int B, int Chosen, bool streamed>
 void transposeTiles(const uint8_t* src, ptrdiff_t srcStep, uint8_t* dst, ptrdiff_t dstStep, ptrdiff_t columns, ptrdiff_t rows, bool far) {
     using Narrow = TransposedBlock<B, 16>;
-    using T = Tile<B>;
-    const bool streamed = far && Chosen == B && (reinterpret_cast<uintptr_t>(dst) | uintptr_t(dstStep)) % 64 == 0;
+    using T = std::conditional_t<streamed, StreamedTile<B>, Tile<B>>;
     alignas(64) uint8_t tile[T::bytes];
     eachTile(columns, rows, T::columns, T::rows, [&](ptrdiff_t x, ptrdiff_t y) {
         // What is left at the end is at least a block, be it one that is partly done.
@@ -264,23 +299,29 @@ void transposeTiles(const uint8_t* src, ptrdiff_t srcStep, uint8_t* dst, ptrdiff
         const uint8_t* s = src + y * srcStep + x * B;
         uint8_t* d = dst + x * dstStep + y * B;
         if (far && !streamedTile) prefetchRows(d, dstStep, height * B, width);
-        takeTile<B>(s, srcStep, tile, width, height);
+        takeTile<T>(s, srcStep, tile, width * B, height);
         if (far) prefetchRows(s + T::step, srcStep, T::step, height);
-        if (streamedTile) streamTile<B>(tile, d, dstStep);
-        else transposeRegion<B, Chosen>(tile, T::step, d, dstStep, width, height);
+        if constexpr (streamed)
+            if (streamedTile) return streamTile<B>(tile, d, dstStep);
+        transposeRegion<B, Chosen>(tile, T::step, d, dstStep, width, height);
     });
     if (streamed) fenceStreams();
 }
 
 template <int B, int Chosen = B>
-void transposeImage(const Image<const uint8_t>& src, const Image<uint8_t>& dst, KvriSize roi) {
+void transposeImage(const uint8_t* src, ptrdiff_t srcStep, uint8_t* dst, ptrdiff_t dstStep, KvriSize roi) {
     using Narrow = TransposedBlock<B, 16>;
-    constexpr ptrdiff_t worthTiles = 49152;  // smaller ones are near enough in the first two caches
-    const ptrdiff_t columns = roi.width, rows = roi.height;
-    if (columns * rows * B > worthTiles && columns >= Narrow::columns && rows >= Narrow::rows)
-        transposeTiles<B, Chosen>(src.row, src.step, dst.row, dst.step, columns, rows, exceedsCache(roi, 4 * B));
+    constexpr ptrdiff_t fitsFirstCache = 16384, worthTiles = 49152;  // smaller ones are near enough in the first two caches
+    const ptrdiff_t columns = roi.width, rows = roi.height, bytes = columns * rows * B;
+    if (bytes > worthTiles && columns >= Narrow::columns && rows >= Narrow::rows) {
+        const bool far = exceedsCache(roi, 4 * B);
+        if (far && Chosen == B && (reinterpret_cast<uintptr_t>(dst) | uintptr_t(dstStep)) % 64 == 0)
+            return transposeTiles<B, Chosen, true>(src, srcStep, dst, dstStep, columns, rows, true);
+        transposeTiles<B, Chosen, false>(src, srcStep, dst, dstStep, columns, rows, far);
+    } else if (bytes <= fitsFirstCache)
+        transposeRegion<B, Chosen, Order::Rows>(src, srcStep, dst, dstStep, columns, rows);
     else
-        transposeRegion<B, Chosen>(src.row, src.step, dst.row, dst.step, columns, rows);
+        transposeRegion<B, Chosen>(src, srcStep, dst, dstStep, columns, rows);
 }
 
 // Square tiles change places in pairs.
@@ -294,7 +335,7 @@ void transposeInPlace(uint8_t* image, ptrdiff_t step, ptrdiff_t size) {
         const ptrdiff_t width = std::min(size - x, T::columns), height = std::min(size - y, T::columns);
         uint8_t *right = image + y * step + x * B, *below = image + x * step + y * B;
         if (far) prefetchRows(below, step, height * B, width);
-        takeTile<B>(right, step, tile, width, height);
+        takeTile<T>(right, step, tile, width * B, height);
         if (x > y) transposeRegion<B, B>(below, step, right, step, height, width);
         transposeRegion<B, B>(tile, T::step, below, step, width, height);
     });
