@@ -166,7 +166,7 @@ KvrStatus resize(const T* pSrc, int srcStep, T* pDst, int dstStep, KvriPoint dst
     constexpr Accepts accepts{isDouble ? kResizeSpecId64f : kResizeSpecId, Method, Antialiasing,
                               isDouble ? ResizeWeights::Double : ResizeWeights::Float};
     const auto run = [](const ResizeTile& tile) {
-        if constexpr (std::is_integral_v<T> && (Method == kvrInterpLinear || Method == kvrInterpSuper))
+        if constexpr (!isDouble && (Method == kvrInterpLinear || Method == kvrInterpSuper))
             if (halves(tile.spec)) return Halver<T, L::channels, Ties::Even>::run(tile);
         const DefaultFloatControl control;
         Resizer<T, L::channels>(tile).run();

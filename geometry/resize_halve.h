@@ -1,8 +1,10 @@
-// geometry/resize_halve.h: integers at half the size: means of 2 x 2 pixels, which Linear and Super have in common.
+// geometry/resize_halve.h: images at half the size: means of 2 x 2 pixels, which Linear and Super have in common.
 //
-// The sum of four samples is exact, and so is what the two passes in single precision would give; only ties differ.
+// The sum of four integers is exact, and so is what the two passes in single precision would give; only ties differ. Numbers
+// in single precision go through the products and sums of the two passes, rows first.
 #pragma once
 
+#include "core/fpcontrol.h"
 #include "core/lanes.h"
 #include "geometry/resize_apply.h"
 
@@ -14,15 +16,109 @@ inline bool halves(const ResizeSpec& spec) {
     return spec.x.reducedSource == 2 && spec.x.reducedDestination == 1 && spec.y.reducedSource == 2 && spec.y.reducedDestination == 1;
 }
 
-template <class T, int C, Ties ties>
-class Halver {
-    static constexpr int size = sizeof(T);
-    // Source bytes that a lane takes: whole pairs of pixels.
-    static constexpr int laneBytes = C == 3 ? 12 : 16;
+// Pixels of B bytes in pairs: the first or the second of every pair, from two vectors with what a block needs of a row.
+template <int W, int B>
+class PixelPairs {
+    static constexpr bool threes = B % 3 == 0;  // the second vector begins in the middle of the first
+    using V = Bytes<W>;
+
+public:
+    static constexpr int bytes = threes ? W / 4 * 3 : W;  // of the pairs' firsts
+
+#if defined(__AVX512BW__)
+    static V firstLoad(const uint8_t* row) { return load<V>(row); }
+    static V secondLoad(const uint8_t* row) { return load<V>(row + (threes ? W / 2 : W)); }
+
+    template <int Second>
+    static V pick(V a, V b) {
+        constexpr int unit = B % 4 == 0 ? 4 : 2;
+        return permuteBoth<unit>(a, b, [](int i) {
+            const int to = i * unit, from = (to / B * 2 + Second) * B + to % B;
+            return to >= bytes ? 0 : from < W ? from / unit : threes ? (from + W / 2) / unit : from / unit;
+        });
+    }
+    static void put(uint8_t* dst, V v) {
+        if constexpr (threes && W == 64) {
+            store(dst, lowerHalf(v));
+            store(dst + 32, lowerHalf(upperHalf(v)));
+        } else if constexpr (threes) storePart(dst, v, bytes);
+        else store(dst, v);
+    }
+#else
+    // Of threes, a lane of each vector has 16 of 24 bytes.
+    static V firstLoad(const uint8_t* row) {
+        if constexpr (threes) return fromLanes<W>([&](int l) KVRI_INLINE { return load<Bytes<16>>(row + l * 24); });
+        else return load<V>(row);
+    }
+    static V secondLoad(const uint8_t* row) { return firstLoad(row + (threes ? 8 : W)); }
+
+    // In the order of lanes, which put() undoes.
+    template <int Second>
+    static V pick(V a, V b) {
+        if constexpr (threes) {
+            struct From {  // the byte of a lane's 24, or 24
+                static constexpr int at(int i) { return i % 16 < 12 ? (i % 16 / B * 2 + Second) * B + i % 16 % B : 24; }
+            };
+            return shuffle(a, constant<V>([](int i) { return From::at(i) < 16 ? From::at(i) : 128; })) |
+                   shuffle(b, constant<V>([](int i) { return From::at(i) >= 16 && From::at(i) < 24 ? From::at(i) - 8 : 128; }));
+        } else if constexpr (B == 16) {
+            if constexpr (W == 16) return Second ? b : a;
+            else return halves<Second, Second>(a, b);
+        } else {
+            const auto grouped = [](V v) {
+                return shuffle(v, constant<V>([](int i) { return (i % 8 / B * 2 + i % 16 / 8) * B + i % B; }));
+            };
+            return Second ? zipHigh<8>(grouped(a), grouped(b)) : zipLow<8>(grouped(a), grouped(b));
+        }
+    }
+    static void put(uint8_t* dst, V v) {
+        if constexpr (W == 16) storePart(dst, v, bytes);
+        else if constexpr (threes) storePart(dst, permute4(v, [](int i) { return i < 6 ? i / 3 * 4 + i % 3 : 3; }), bytes);
+        else if constexpr (B == 16) store(dst, v);
+        else store(dst, permute4(v, [](int i) { return (i / 2 % 2 * 2 + i / 4) * 2 + i % 2; }));
+    }
+#endif
+};
+
+// Means of four numbers of any width: of the means of two each, with what these are too large by.
+template <class T, int B, Ties ties>
+struct MeansOfMeans {
+    template <int W>
+    static constexpr int bytes = PixelPairs<W, B>::bytes;
+
+    // 16s as 16u, each 2^15 more.
+    template <class V>
+    static V shifted(V v) {
+        if constexpr (std::is_same_v<T, int16_t>) return (V)((Vec<uint16_t, sizeof(V)>)v ^ 0x8000);
+        else return v;
+    }
+
+    template <int W>
+    static void block(const uint8_t* p, const uint8_t* q, uint8_t* dst) {
+        using Pairs = PixelPairs<W, B>;
+        using V = Vec<std::make_unsigned_t<T>, W>;
+        const auto operand = [](Bytes<W> v) KVRI_INLINE { return (V)shifted(loadedOnce(v)); };
+        const V p0 = operand(Pairs::firstLoad(p)), q0 = operand(Pairs::firstLoad(q));
+        const V p1 = operand(Pairs::secondLoad(p)), q1 = operand(Pairs::secondLoad(q));
+        const Bytes<W> a = (Bytes<W>)average(p0, q0), b = (Bytes<W>)average(p1, q1), x = (Bytes<W>)(p0 ^ q0), y = (Bytes<W>)(p1 ^ q1);
+        const V left = (V)Pairs::template pick<0>(a, b), right = (V)Pairs::template pick<1>(a, b);
+        const V leftHalf = (V)Pairs::template pick<0>(x, y), rightHalf = (V)Pairs::template pick<1>(x, y), half = left ^ right;
+        const V mean = average(left, right);
+        // Too large by half / 2 + (leftHalf + rightHalf) / 4, of which the lowest bits count.
+        V less = half & (leftHalf | rightHalf);
+        if constexpr (ties == Ties::Even) less |= mean & (half | (leftHalf & rightHalf));
+        Pairs::put(dst, shifted((Bytes<W>)(mean - (less & 1))));
+    }
+};
+
+// 8u of one and of three channels: sums of pairs by multiply-adds.
+template <int C, Ties ties>
+class MeansOfSums {
+    static constexpr int laneBytes = C == 3 ? 12 : 16;  // source bytes that a lane takes: whole pairs of pixels
 
     template <class V>
     static V mean(V sum) {
-        if constexpr (ties == Ties::Up) return (sum + 2) >> 2;
+        if constexpr (ties == Ties::Up) return multiplyHighRounded(sum, splat<V>(1 << 13));
         else return (sum + 1 + ((sum >> 2) & 1)) >> 2;
     }
 
@@ -32,41 +128,25 @@ class Halver {
         if constexpr (C == 1) return v;
         else
             return shuffle(v, constant<Bytes<W>>([](int i) {
-                const int sample = i % 16 / size, pair = sample / 2, pixel = pair / C * 2 + sample % 2;
-                const int byte = (pixel * C + pair % C) * size + i % size;
+                const int sample = i % 16, pair = sample / 2, pixel = pair / C * 2 + sample % 2, byte = pixel * C + pair % C;
                 return byte < laneBytes ? byte + skipped : 128;
             }));
-    }
-
-    template <class V>
-    static auto addPairs(V v) {
-        if constexpr (size == 1) return multiplyPairsOfBytes(v, splat<V>(1));
-        else return multiplyPairs((Vec<int16_t, sizeof(V)>)v, splat<Vec<int16_t, sizeof(V)>>(1));
-    }
-
-    // 16u as 16s, each 2^15 less.
-    template <class V>
-    static V centred(V v) {
-        if constexpr (std::is_same_v<T, uint16_t>) return v ^ (V)splat<Vec<uint16_t, sizeof(V)>>(0x8000);
-        else return v;
     }
 
     // Lanes of both rows from p and q on, `stride` bytes apart.
     template <int W, int stride, int skipped>
     static auto means(const uint8_t* p, const uint8_t* q) {
-        const auto rows = [&](const uint8_t* row) {
+        const auto rows = [&](const uint8_t* row) KVRI_INLINE {
             const auto v = [&]() KVRI_INLINE {
                 if constexpr (stride == 16) return load<Bytes<W>>(row);
                 else return fromLanes<W>([&](int l) KVRI_INLINE { return load<Bytes<16>>(row + l * stride); });
             }();
-            return addPairs(pairUp<W, skipped>(centred(v)));
+            return multiplyPairsOfBytes(pairUp<W, skipped>(v), splat<Bytes<W>>(1));
         };
-        auto sum = rows(p) + rows(q);
-        if constexpr (std::is_same_v<T, uint16_t>) sum += 4 * 0x8000;
-        return mean(sum);
+        return mean(rows(p) + rows(q));
     }
 
-    // `bytes<W>` bytes of the destination.
+public:
     template <int W>
     static constexpr int bytes = W / 16 * laneBytes;
 
@@ -74,52 +154,104 @@ class Halver {
     static void block(const uint8_t* p, const uint8_t* q, uint8_t* dst) {
         constexpr int lanes = W / 16;
         if constexpr (C == 3) {  // the second of each two lanes is loaded from 4 bytes before, to stay inside
-            const auto v = (Bytes<W>)narrow<T>(means<W, 24, 0>(p, q), means<W, 24, 4>(p + 8, q + 8));
+            const auto v = (Bytes<W>)narrow<uint8_t>(means<W, 24, 0>(p, q), means<W, 24, 4>(p + 8, q + 8));
             const auto packed = shuffle(v, constant<Bytes<W>>([](int i) { return i % 16 < 6 ? i % 16 : i % 16 < 12 ? i % 16 + 2 : 128; }));
             if constexpr (lanes == 1) storePart(dst, packed, 12);
             else storePart(dst, permute4(packed, [](int i) { return i < 3 * (W / 16) ? i / 3 * 4 + i % 3 : 3; }), bytes<W>);
         } else {
-            const auto v = (Bytes<W>)narrow<T>(means<W, 16, 0>(p, q), means<W, 16, 0>(p + W, q + W));
+            const auto v = (Bytes<W>)narrow<uint8_t>(means<W, 16, 0>(p, q), means<W, 16, 0>(p + W, q + W));
             if constexpr (lanes == 1) store(dst, v);
             else store(dst, permute4(v, [](int i) { return (i / 2 % (W / 16) * 2 + i / 2 / (W / 16)) * 2 + i % 2; }));
         }
     }
+};
+
+template <int B>
+struct MeansOfFloats {
+    template <int W>
+    static constexpr int bytes = PixelPairs<W, B>::bytes;
+
+    template <class V>
+    static V mean(V a, V b) { return a * 0.5f + b * 0.5f; }
+
+    template <int W>
+    static void block(const uint8_t* p, const uint8_t* q, uint8_t* dst) {
+        using Pairs = PixelPairs<W, B>;
+        using V = Vec<float, W>;
+        const auto a = (Bytes<W>)mean((V)Pairs::firstLoad(p), (V)Pairs::firstLoad(q));
+        const auto b = (Bytes<W>)mean((V)Pairs::secondLoad(p), (V)Pairs::secondLoad(q));
+        Pairs::put(dst, (Bytes<W>)mean((V)Pairs::template pick<0>(a, b), (V)Pairs::template pick<1>(a, b)));
+    }
+};
+
+template <class T, int C, Ties ties>
+class Halver {
+    static constexpr int size = sizeof(T), pixelBytes = C * size;
+    using Means = std::conditional_t<std::is_floating_point_v<T>, MeansOfFloats<pixelBytes>,
+                                     std::conditional_t<size == 1 && C != 4, MeansOfSums<C, ties>, MeansOfMeans<T, pixelBytes, ties>>>;
 
     // Where the last block would reach beyond the row, it is moved back over what is there already.
     template <int W>
-    static void row(const uint8_t* p, const uint8_t* q, uint8_t* dst, ptrdiff_t n) {
+    KVRI_INLINE static void row(const uint8_t* p, const uint8_t* q, uint8_t* dst, ptrdiff_t n) {
+        constexpr int bytes = Means::template bytes<W>;
         ptrdiff_t i = 0;
-        for (; n - i >= bytes<W>; i += bytes<W>) block<W>(p + 2 * i, q + 2 * i, dst + i);
+        for (; n - i >= bytes; i += bytes) Means::template block<W>(p + 2 * i, q + 2 * i, dst + i);
         if (i == n) return;
-        i = n - bytes<W>;
-        block<W>(p + 2 * i, q + 2 * i, dst + i);
+        i = n - bytes;
+        Means::template block<W>(p + 2 * i, q + 2 * i, dst + i);
+    }
+
+    static T mean(T a, T b, T c, T d) {
+        if constexpr (std::is_floating_point_v<T>) return (a * 0.5f + c * 0.5f) * 0.5f + (b * 0.5f + d * 0.5f) * 0.5f;
+        else {
+            const int sum = a + b + c + d;
+            return T((sum + 1 + (ties == Ties::Up ? 1 : (sum >> 2) & 1)) >> 2);
+        }
     }
 
     static void samples(const uint8_t* p, const uint8_t* q, uint8_t* dst, ptrdiff_t n) {
         for (ptrdiff_t i = 0; i < n / size; ++i) {
-            const ptrdiff_t left = (i / C * 2 * C + i % C) * size;
+            const ptrdiff_t left = (i / C * 2 * C + i % C) * size, right = left + pixelBytes;
             const auto at = [](const uint8_t* p) {
                 T t;
                 std::memcpy(&t, p, size);
-                return int(t);
+                return t;
             };
-            const T result = T(mean(at(p + left) + at(p + left + C * size) + at(q + left) + at(q + left + C * size)));
+            const T result = mean(at(p + left), at(p + right), at(q + left), at(q + right));
             std::memcpy(dst + i * size, &result, size);
+        }
+    }
+
+    // The caller's pointer is to the first pixel that the tile uses.
+    template <class Row>
+    KVRI_INLINE static void rows(const ResizeTile& tile, Row row) {
+        const ptrdiff_t n = ptrdiff_t(tile.size.width) * pixelBytes;
+        const uint8_t* p = tile.src;
+        uint8_t* dst = tile.dst;
+        for (int y = tile.size.height;;) {
+            row(p, p + tile.srcStep, dst, n);
+            if (--y == 0) return;
+            p += 2 * tile.srcStep;
+            dst += tile.dstStep;
         }
     }
 
 public:
     static void run(const ResizeTile& tile) {
-        constexpr ptrdiff_t pixelBytes = C * size;
-        const ptrdiff_t n = tile.size.width * pixelBytes;
-        for (int y = 0; y < tile.size.height; ++y) {
-            const int x = 2 * tile.offset.x, upper = 2 * (tile.offset.y + y);
-            const uint8_t *p = tile.source(upper, x, pixelBytes), *q = tile.source(upper + 1, x, pixelBytes);
-            uint8_t* dst = tile.destination(y, 0, pixelBytes);
-            if (n >= bytes<kVectorBytes>) row<kVectorBytes>(p, q, dst, n);
-            else if (n >= bytes<kShuffleBytes>) row<kShuffleBytes>(p, q, dst, n);
-            else if (n >= bytes<16>) row<16>(p, q, dst, n);
-            else samples(p, q, dst, n);
+        const auto wide = [&]<int W>(std::integral_constant<int, W>) {
+            if (tile.size.width * ptrdiff_t(pixelBytes) < Means::template bytes<W>) return false;
+            rows(tile, [](auto... row) KVRI_INLINE { Halver::row<W>(row...); });
+            return true;
+        };
+        const auto widest = [&] {
+            return wide(std::integral_constant<int, kVectorBytes>{}) || wide(std::integral_constant<int, kShuffleBytes>{}) ||
+                   wide(std::integral_constant<int, 16>{});
+        };
+        if constexpr (std::is_floating_point_v<T>) {
+            const DefaultFloatControl control;
+            if (!widest()) rows(tile, samples);
+        } else if (!widest()) {
+            rows(tile, samples);
         }
     }
 };

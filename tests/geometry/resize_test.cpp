@@ -59,6 +59,39 @@ TEST(Resize, MatchesContract) {
         }
 }
 
+// Half and double size have ways of their own, by whole vectors. Single precision with numbers that overflow and vanish.
+TEST(Resize, FactorsOfTwo) {
+    constexpr KvriSize kFactors[] = {{-1, -1}, {1, 1}, {-1, 1}, {1, -1}};
+    for (const Case& c : cases()) {
+        if (c.method != kvrInterpNearest && c.method != kvrInterpLinear && c.method != kvrInterpSuper) continue;
+        Random random(17);
+        for (int width = 1; width <= 100; width += width < 72 ? 1 : 7)
+            for (const KvriSize f : kFactors) {
+                if (c.method == kvrInterpSuper && (f.width > 0 || f.height > 0)) continue;
+                const auto lengths = [](int n, int factor) { return factor > 0 ? std::pair{n + 1, 2 * n + 2} : std::pair{2 * n, n}; };
+                const auto x = lengths(width, f.width), y = lengths(random.in(1, 4), f.height);
+                const Scene s(c, {}, {x.first, y.first}, {x.second, y.second}, kBorders[random.in(0, 5)], random);
+                if (c.type == Type::f32)
+                    for (int i = 0; i < s.src.width * s.src.height / 4; ++i) {
+                        const double extremes[] = {3e38, -3e38, 1e-45, 3e-45, -1.2e-38, 5e-39, 0.3};
+                        contract::store(c.type, extremes[random.in(0, 6)], s.pixel(random.in(0, s.src.width - 1), random.in(0, s.src.height - 1)));
+                    }
+                const TestImage have(c.pixelBytes() * s.dst.width, s.dst.height, random), tile(have.rowBytes, have.rows, random);
+                const auto first = expected(s, have, true), second = expected(s, have, false);
+                ASSERT_EQ(s.run({0, 0}, s.dst, have, random), kvrStatusOk) << describe(s);
+                const auto memory = have.memory();
+                ASSERT_TRUE(memory == first || memory == second) << describe(s) << "\n" << firstDifference(s, have, first);
+
+                const KvriPoint at{random.in(0, s.dst.width - 1), random.in(0, s.dst.height - 1)};
+                const KvriSize size{random.in(1, s.dst.width - at.x), random.in(1, s.dst.height - at.y)};
+                ASSERT_EQ(s.run(at, size, tile, random), kvrStatusOk) << describe(s);
+                for (int row = at.y; row < at.y + size.height; ++row)
+                    ASSERT_EQ(std::memcmp(tile.row(row) + at.x * c.pixelBytes(), have.row(row) + at.x * c.pixelBytes(), size_t(size.width) * c.pixelBytes()), 0)
+                        << describe(s) << ", tile at " << at.x << ", " << at.y << ", " << size.width << "x" << size.height;
+            }
+    }
+}
+
 TEST(Resize, TilesGiveThePixelsOfTheWhole) {
     for (const Case& c : cases())
         for (int seed = 0; seed < 15; ++seed) {
