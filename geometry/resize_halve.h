@@ -7,6 +7,7 @@
 #include "core/fpcontrol.h"
 #include "core/lanes.h"
 #include "geometry/resize_apply.h"
+#include "geometry/resize_pairs.h"
 
 namespace kvri {
 
@@ -15,70 +16,6 @@ enum class Ties { Up, Even };
 inline bool halves(const ResizeSpec& spec) {
     return spec.x.reducedSource == 2 && spec.x.reducedDestination == 1 && spec.y.reducedSource == 2 && spec.y.reducedDestination == 1;
 }
-
-// Pixels of B bytes in pairs: the first or the second of every pair, from two vectors with what a block needs of a row.
-template <int W, int B>
-class PixelPairs {
-    static constexpr bool threes = B % 3 == 0;  // the second vector begins in the middle of the first
-    using V = Bytes<W>;
-
-public:
-    static constexpr int bytes = threes ? W / 4 * 3 : W;  // of the pairs' firsts
-
-#if defined(__AVX512BW__)
-    static V firstLoad(const uint8_t* row) { return load<V>(row); }
-    static V secondLoad(const uint8_t* row) { return load<V>(row + (threes ? W / 2 : W)); }
-
-    template <int Second>
-    static V pick(V a, V b) {
-        constexpr int unit = B % 4 == 0 ? 4 : 2;
-        return permuteBoth<unit>(a, b, [](int i) {
-            const int to = i * unit, from = (to / B * 2 + Second) * B + to % B;
-            return to >= bytes ? 0 : from < W ? from / unit : threes ? (from + W / 2) / unit : from / unit;
-        });
-    }
-    static void put(uint8_t* dst, V v) {
-        if constexpr (threes && W == 64) {
-            store(dst, lowerHalf(v));
-            store(dst + 32, lowerHalf(upperHalf(v)));
-        } else if constexpr (threes) storePart(dst, v, bytes);
-        else store(dst, v);
-    }
-#else
-    // Of threes, a lane of each vector has 16 of 24 bytes.
-    static V firstLoad(const uint8_t* row) {
-        if constexpr (threes) return fromLanes<W>([&](int l) KVRI_INLINE { return load<Bytes<16>>(row + l * 24); });
-        else return load<V>(row);
-    }
-    static V secondLoad(const uint8_t* row) { return firstLoad(row + (threes ? 8 : W)); }
-
-    // In the order of lanes, which put() undoes.
-    template <int Second>
-    static V pick(V a, V b) {
-        if constexpr (threes) {
-            struct From {  // the byte of a lane's 24, or 24
-                static constexpr int at(int i) { return i % 16 < 12 ? (i % 16 / B * 2 + Second) * B + i % 16 % B : 24; }
-            };
-            return shuffle(a, constant<V>([](int i) { return From::at(i) < 16 ? From::at(i) : 128; })) |
-                   shuffle(b, constant<V>([](int i) { return From::at(i) >= 16 && From::at(i) < 24 ? From::at(i) - 8 : 128; }));
-        } else if constexpr (B == 16) {
-            if constexpr (W == 16) return Second ? b : a;
-            else return halves<Second, Second>(a, b);
-        } else {
-            const auto grouped = [](V v) {
-                return shuffle(v, constant<V>([](int i) { return (i % 8 / B * 2 + i % 16 / 8) * B + i % B; }));
-            };
-            return Second ? zipHigh<8>(grouped(a), grouped(b)) : zipLow<8>(grouped(a), grouped(b));
-        }
-    }
-    static void put(uint8_t* dst, V v) {
-        if constexpr (W == 16) storePart(dst, v, bytes);
-        else if constexpr (threes) storePart(dst, permute4(v, [](int i) { return i < 6 ? i / 3 * 4 + i % 3 : 3; }), bytes);
-        else if constexpr (B == 16) store(dst, v);
-        else store(dst, permute4(v, [](int i) { return (i / 2 % 2 * 2 + i / 4) * 2 + i % 2; }));
-    }
-#endif
-};
 
 // Means of four numbers of any width: of the means of two each, with what these are too large by.
 template <class T, int B, Ties ties>
@@ -101,13 +38,13 @@ struct MeansOfMeans {
         const V p0 = operand(Pairs::firstLoad(p)), q0 = operand(Pairs::firstLoad(q));
         const V p1 = operand(Pairs::secondLoad(p)), q1 = operand(Pairs::secondLoad(q));
         const Bytes<W> a = (Bytes<W>)average(p0, q0), b = (Bytes<W>)average(p1, q1), x = (Bytes<W>)(p0 ^ q0), y = (Bytes<W>)(p1 ^ q1);
-        const V left = (V)Pairs::template pick<0>(a, b), right = (V)Pairs::template pick<1>(a, b);
-        const V leftHalf = (V)Pairs::template pick<0>(x, y), rightHalf = (V)Pairs::template pick<1>(x, y), half = left ^ right;
+        const V left = (V)Pairs::template pick<Pairs::Firsts>(a, b), right = (V)Pairs::template pick<Pairs::Seconds>(a, b);
+        const V leftHalf = (V)Pairs::template pick<Pairs::Firsts>(x, y), rightHalf = (V)Pairs::template pick<Pairs::Seconds>(x, y), half = left ^ right;
         const V mean = average(left, right);
         // Too large by half / 2 + (leftHalf + rightHalf) / 4, of which the lowest bits count.
         V less = half & (leftHalf | rightHalf);
         if constexpr (ties == Ties::Even) less |= mean & (half | (leftHalf & rightHalf));
-        Pairs::put(dst, shifted((Bytes<W>)(mean - (less & 1))));
+        Pairs::put(dst, Pairs::ordered(shifted((Bytes<W>)(mean - (less & 1)))));
     }
 };
 
@@ -180,7 +117,7 @@ struct MeansOfFloats {
         using V = Vec<float, W>;
         const auto a = (Bytes<W>)mean((V)Pairs::firstLoad(p), (V)Pairs::firstLoad(q));
         const auto b = (Bytes<W>)mean((V)Pairs::secondLoad(p), (V)Pairs::secondLoad(q));
-        Pairs::put(dst, (Bytes<W>)mean((V)Pairs::template pick<0>(a, b), (V)Pairs::template pick<1>(a, b)));
+        Pairs::put(dst, Pairs::ordered((Bytes<W>)mean((V)Pairs::template pick<Pairs::Firsts>(a, b), (V)Pairs::template pick<Pairs::Seconds>(a, b))));
     }
 };
 

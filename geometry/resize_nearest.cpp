@@ -1,11 +1,13 @@
-// geometry/resize_nearest.cpp: Nearest. Pixels are moved as bytes: a lane of 16 destination bytes is shuffled together from
-// 16 or 32 source bytes where its pixels lie that close, and copied pixel by pixel where not.
+// geometry/resize_nearest.cpp: Nearest. Pixels are moved as bytes: half and double rows by whole vectors; else a lane of 16
+// destination bytes is shuffled together from 16 or 32 source bytes where its pixels lie that close, and copied pixel by pixel
+// where not.
 #include <cstring>
 
 #include "core/dispatch.h"
 #include "core/layout.h"
 #include "core/simd.h"
 #include "geometry/resize_apply.h"
+#include "geometry/resize_pairs.h"
 
 namespace kvri {
 namespace {
@@ -50,11 +52,11 @@ public:
     }
 
     // src: the pixel of the first source column.
-    template <bool Streamed>
-    void apply(const uint8_t* src, uint8_t* dst) const {
-        if (reach_ == kLane) return shuffleLanes<1, Streamed>(src, dst);
-        if (reach_ != 0) return shuffleLanes<2, Streamed>(src, dst);
-        for (int i = 0, first = index[0]; i < pixels; ++i) std::memcpy(dst + i * B, src + ptrdiff_t(index[i] - first) * B, B);
+    template <class Rows>
+    void apply(const uint8_t* src, Rows dst) const {
+        if (reach_ == kLane) return shuffleLanes<1>(src, dst);
+        if (reach_ != 0) return shuffleLanes<2>(src, dst);
+        for (int i = 0, first = index[0]; i < pixels; ++i) std::memcpy(dst.row + i * B, src + ptrdiff_t(index[i] - first) * B, B);
     }
 
 private:
@@ -66,8 +68,8 @@ private:
         return pixel > 0 && byte % B != B - 1 ? std::max(here, (index[pixel - 1] - index[0]) * B + B - 1) : here;
     }
 
-    template <int Loads, bool Streamed>
-    void shuffleLanes(const uint8_t* src, uint8_t* dst) const {
+    template <int Loads, class Rows>
+    void shuffleLanes(const uint8_t* src, Rows dst) const {
         for (int i = 0; i < lanes_; ++i) {
             const uint8_t* p = src + base_[i];
             const Lane place = load<Lane>(place_ + i * kLane);
@@ -75,26 +77,101 @@ private:
             if constexpr (Loads == 1) v = shuffle(load<Lane>(p), place);
             else  // a control byte with its highest bit set gives 0
                 v = shuffle(load<Lane>(p), place + uint8_t(0x70)) | shuffle(load<Lane>(p + kLane), place - uint8_t(kLane));
-            if (Streamed && i < lanes_ - 1) stream(dst + i * kLane, v);
-            else store(dst + (i < lanes_ - 1 ? i * kLane : start(i)), v);
+            if (i < lanes_ - 1) dst.put(i * kLane, v);
+            else store(dst.row + start(i), v);
         }
     }
 };
 
+template <bool Streamed>
+struct NearestRow {
+    uint8_t* row;
+
+    // Bytes that nothing else is written over, at multiples of the vector's size from the row's begin.
+    template <class V>
+    void put(ptrdiff_t at, V v) const {
+        if constexpr (Streamed) stream(row + at, v);
+        else store(row + at, v);
+    }
+};
+
+// Calls fill(source row from `column` on, destination row from x on) for every destination row. Writing two that are alike at
+// a time would be slower: rows may lie a power of two apart.
+template <int B, class Fill>
+KVRI_INLINE void eachRowOf(const ResizeTile& tile, int x, int column, int alignment, Fill fill) {
+    const int32_t* index = tile.spec.table<int32_t>(tile.spec.y.index) + tile.offset.y;
+    uint8_t* dst = tile.destination(0, x, B);
+    const auto walk = [&](auto streamed) KVRI_INLINE {
+        for (int y = 0;; dst += tile.dstStep) {
+            fill(tile.source(index[y], column, B), NearestRow<streamed>{dst});
+            if (++y == tile.size.height) return;
+        }
+    };
+    const bool aligned = ((reinterpret_cast<uintptr_t>(dst) | uintptr_t(tile.dstStep)) & uintptr_t(alignment - 1)) == 0;
+    if (tile.streams && aligned) walk(std::true_type{});
+    else walk(std::false_type{});
+}
+
+// Every second column.
+template <int B, int W>
+bool halveColumns(const ResizeTile& tile) {
+    using Pairs = PixelPairs<W, B>;
+    const ptrdiff_t n = ptrdiff_t(tile.size.width) * B, last = n - Pairs::bytes;
+    if (last < 0) return false;
+    eachRowOf<B>(tile, 0, 2 * tile.offset.x, W, [=](const uint8_t* src, auto dst) KVRI_INLINE {
+        for (ptrdiff_t i = 0; i < last; i += Pairs::bytes) {
+            const uint8_t* p = src + 2 * i;
+            const auto v = Pairs::ordered(Pairs::template pick<Pairs::Firsts>(Pairs::firstLoad(p), Pairs::secondLoad(p)));
+            if constexpr (Pairs::bytes == W) dst.put(i, v);
+            else Pairs::put(dst.row + i, v);
+        }
+        const uint8_t* p = src + 2 * last;
+        Pairs::put(dst.row + last, Pairs::ordered(Pairs::template pick<Pairs::FirstsEarlier>(Pairs::firstLoad(p), Pairs::earlierLoad(p))));
+    });
+    return true;
+}
+
+// Every column twice, but for a half pair at either end.
+template <int B, int W>
+bool doubleColumns(const ResizeTile& tile) {
+    using Twice = PixelsTwice<W, B>;
+    const int before = tile.offset.x % 2, pairs = (tile.size.width - before) / 2, behind = tile.size.width - before - 2 * pairs;
+    const ptrdiff_t n = ptrdiff_t(pairs) * 2 * B, begin = before * B;
+    if (n < Twice::bytes) return false;
+    eachRowOf<B>(tile, 0, tile.offset.x / 2, W, [=](const uint8_t* src, auto dst) KVRI_INLINE {
+        if (before) std::memcpy(dst.row, src, B);
+        if (behind) std::memcpy(dst.row + begin + n, src + begin + n / 2, B);
+        uint8_t* row = dst.row + begin;
+        src += begin;
+        const auto overwrite = [&](ptrdiff_t i) KVRI_INLINE { Twice::block(src + i / 2, [&](int at, auto v) KVRI_INLINE { store(row + i + at, v); }); };
+        ptrdiff_t i = 0;
+        if (before)
+            for (; n - i >= Twice::bytes; i += Twice::bytes) overwrite(i);
+        else
+            for (; n - i >= Twice::bytes; i += Twice::bytes) Twice::block(src + i / 2, [&](int at, auto v) KVRI_INLINE { dst.put(i + at, v); });
+        if (i < n) overwrite(n - Twice::bytes);
+    });
+    return true;
+}
+
 template <int B>
-void resizeNearest(const ResizeTile& tile) {
+void byStrips(const ResizeTile& tile) {
     NearestStrip<B> strip;
-    const int32_t* rows = tile.spec.table<int32_t>(tile.spec.y.index) + tile.offset.y;
     for (int x = 0; x < tile.size.width; x += strip.most) {
         strip.prepare(tile.spec, tile.offset.x + x, std::min(strip.most, tile.size.width - x));
-        for (int y = 0; y < tile.size.height; ++y) {
-            tile.prefetchDestination(y + 2, x, strip.pixels, B);
-            const uint8_t* src = tile.source(rows[y], strip.index[0], B);
-            uint8_t* dst = tile.destination(y, x, B);
-            if (tile.streams && reinterpret_cast<uintptr_t>(dst) % kLane == 0) strip.template apply<true>(src, dst);
-            else strip.template apply<false>(src, dst);
-        }
+        eachRowOf<B>(tile, x, strip.index[0], kLane, [&](const uint8_t* src, auto dst) KVRI_INLINE { strip.apply(src, dst); });
     }
+}
+
+template <int B>
+void resizeNearest(const ResizeTile& tile) {
+    const ResizeAxis& x = tile.spec.x;
+    if (x.reducedSource == 2 && x.reducedDestination == 1) {
+        if (halveColumns<B, kVectorBytes>(tile) || halveColumns<B, kShuffleBytes>(tile) || halveColumns<B, 16>(tile)) return;
+    } else if (x.reducedSource == 1 && x.reducedDestination == 2) {
+        if (doubleColumns<B, kVectorBytes>(tile) || doubleColumns<B, kShuffleBytes>(tile) || doubleColumns<B, 16>(tile)) return;
+    }
+    byStrips<B>(tile);
 }
 
 template <class T, class L>
