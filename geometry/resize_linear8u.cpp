@@ -11,6 +11,7 @@
 #include "core/lanes.h"
 #include "core/layout.h"
 #include "geometry/resize_apply.h"
+#include "geometry/resize_double.h"
 #include "geometry/resize_halve.h"
 
 namespace kvri {
@@ -266,6 +267,7 @@ KvrStatus linear(const Kvr8u* pSrc, int srcStep, Kvr8u* pDst, int dstStep, KvriP
     constexpr Accepts accepts{kResizeSpecId, kvrInterpLinear, false, ResizeWeights::Fixed14};
     const auto run = [](const ResizeTile& tile) {
         if (halves(tile.spec)) Halver<Kvr8u, L::channels, Ties::Up>::run(tile);
+        else if (doubles(tile.spec)) LinearDoubler<L::channels>(tile).run();
         else if (!LinearResizer<L::channels, true>(tile).run()) LinearResizer<L::channels, false>(tile).run();
     };
     return applyResize<L::channels>(accepts, run, pSrc, srcStep, pDst, dstStep, dstOffset, dstSize, border, pSpec, pBuffer);
