@@ -4,8 +4,8 @@
 #include <cstring>
 
 #include "core/dispatch.h"
+#include "core/lanes.h"
 #include "core/layout.h"
-#include "core/simd.h"
 #include "geometry/resize_apply.h"
 #include "geometry/resize_pairs.h"
 
@@ -20,7 +20,7 @@ template <int B>
 class NearestStrip {
     using Lane = Bytes<kLane>;
 
-    alignas(64) uint8_t place_[kStripLanes * kLane];  // of each destination byte, from the lane's base on
+    alignas(64) Lane place_[kStripLanes];  // of each destination byte, from the lane's base on
     int32_t base_[kStripLanes];
     int lanes_, reach_;  // bytes that a lane's shuffle may reach; 0: pixels are copied
 
@@ -35,19 +35,23 @@ public:
         reach_ = 0;
         lanes_ = (count * B + kLane - 1) / kLane;
         if (count * B < kLane) return;
-        int widest = 0;
-        for (int i = 0; i < lanes_; ++i) widest = std::max(widest, lowest(start(i) + kLane - 1, false) - lowest(start(i), true));
-        const int reach = widest < kLane ? kLane : widest < 2 * kLane ? 2 * kLane : 0;
+        Lane widest{};
+        for (int i = 0; i < lanes_; ++i) {
+            const int byte = start(i), pixel = byte / B, phase = byte % B;
+            const Lane place = offsets(index + pixel, phase);
+            // The second pixel may begin before the first byte.
+            const int low = phase == 0 ? 0 : std::min(phase, (index[pixel + 1] - index[pixel]) * B);
+            base_[i] = (index[pixel] - index[0]) * B + low;
+            place_[i] = place - uint8_t(low);
+            widest |= place_[i];
+        }
+        const int reach = allZero(widest & uint8_t(-kLane)) ? kLane : allZero(widest & uint8_t(-2 * kLane)) ? 2 * kLane : 0;
         const int behind = (index[count - 1] - index[0] + 1) * B - reach;
         if (reach == 0 || behind < 0) return;
         reach_ = reach;
-        for (int i = 0; i < lanes_; ++i) {
-            base_[i] = std::min(lowest(start(i), true), behind);
-            int pixel = start(i) / B, byte = start(i) % B;
-            for (int k = 0; k < kLane; ++k) {
-                place_[i * kLane + k] = uint8_t((index[pixel] - index[0]) * B + byte - base_[i]);
-                if (++byte == B) byte = 0, ++pixel;
-            }
+        for (int i = lanes_ - 1; i >= 0 && base_[i] > behind; --i) {
+            place_[i] += uint8_t(base_[i] - behind);
+            base_[i] = behind;
         }
     }
 
@@ -61,18 +65,34 @@ public:
 
 private:
     int start(int lane) const { return std::min(lane * kLane, pixels * B - kLane); }
-    // The lowest or highest source byte of a lane that begins or ends with a destination byte.
-    int lowest(int byte, bool begins) const {
-        const int pixel = byte / B, here = (index[pixel] - index[0]) * B + byte % B;
-        if (begins) return pixel + 1 < pixels && byte % B != 0 ? std::min(here, (index[pixel + 1] - index[0]) * B) : here;
-        return pixel > 0 && byte % B != B - 1 ? std::max(here, (index[pixel - 1] - index[0]) * B + B - 1) : here;
+
+    // Byte k of a lane that begins `phase` bytes into a pixel: whose pixel's it is, and which of its bytes.
+    static constexpr auto table(auto entry) {
+        std::array<std::array<uint8_t, kLane>, B> t{};
+        for (int phase = 0; phase < B; ++phase)
+            for (int k = 0; k < kLane; ++k) t[phase][k] = uint8_t(entry(phase + k));
+        return t;
+    }
+    static constexpr auto kPixelOf = table([](int byte) { return byte / B; }), kByteOf = table([](int byte) { return byte % B; });
+
+    // Source bytes of a lane's destination bytes, from the first pixel's on; at most 255. What is read of `index` behind the
+    // row's end, three entries at most, is not used.
+    static Lane offsets(const int32_t* index, int phase) {
+        using Indices = Vec<uint32_t, kLane>;
+        constexpr int vectors = B == 1 ? 4 : B <= 3 ? 2 : 1;
+        const auto pixels = [&](int j) KVRI_INLINE {
+            const Indices v = load<Indices>(index + std::min(j, vectors - 1) * 4) - uint32_t(index[0]);
+            return (Vec<int32_t, kLane>)(v * uint32_t(B));
+        };
+        const auto begins = (Lane)narrow<uint8_t>(narrow<int16_t>(pixels(0), pixels(1)), narrow<int16_t>(pixels(2), pixels(3)));
+        return addSaturated(shuffle(begins, load<Lane>(kPixelOf[phase].data())), load<Lane>(kByteOf[phase].data()));
     }
 
     template <int Loads, class Rows>
     void shuffleLanes(const uint8_t* src, Rows dst) const {
         for (int i = 0; i < lanes_; ++i) {
             const uint8_t* p = src + base_[i];
-            const Lane place = load<Lane>(place_ + i * kLane);
+            const Lane place = place_[i];
             Lane v;
             if constexpr (Loads == 1) v = shuffle(load<Lane>(p), place);
             else  // a control byte with its highest bit set gives 0
