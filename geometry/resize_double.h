@@ -17,7 +17,7 @@ class LinearDoubler {
     using Words = Vec<uint16_t>;
     static constexpr int period = C == 3 ? 3 : 1, lanes = kVectorBytes / 16;
     static constexpr int most = 4096 / C / 2 * 2;  // columns of a strip
-    static constexpr int stripSamples = 4352;      // with what whole periods have more; two rows of sums lie no page apart
+    static constexpr int stripSamples = 5120;      // with what whole periods have more; two rows of sums lie half a page more than pages apart
     static constexpr int sourceBytes = stripSamples / 2 + kVectorBytes, mostAhead = 8;
 
     const ResizeTile& tile_;
@@ -71,36 +71,34 @@ private:
             ++copied;
             columns.copy(columns.top + copied * tile_.srcStep, sourceRow(copied));
         };
-        uint8_t* dst = tile_.destination(0, x - tile_.offset.x + before / C, C);
-        const bool streams = tile_.streams && ((reinterpret_cast<uintptr_t>(dst) | uintptr_t(tile_.dstStep)) & (kVectorBytes - 1)) == 0;
-        const auto rowOf = [&](int y, auto streamed, uint8_t* dst) KVRI_INLINE {
-            const int upper = tile_.rows((y + 1) / 2 - 1), lower = tile_.rows((y + 1) / 2);
-            uint16_t *above = sums_[upper & 1], *below = sums_[lower & 1];
-            if (lower == summed) return y % 2 == 0 ? combine<streamed>(below, above, samples, dst) : combine<streamed>(above, below, samples, dst);
-            const uint8_t* source = sourceRow(lower);
-            summed = lower;
-            if (y % 2 == 1) sumAndCombine<streamed>(source, above, below, samples, dst);
-            else {
-                sumAlong(source, samples, below, [](auto...) KVRI_INLINE {});
-                combine<streamed>(below, above, samples, dst);
+        const int column = x - tile_.offset.x + before / C;
+        const bool aligned = ((reinterpret_cast<uintptr_t>(tile_.destination(0, column, C)) | uintptr_t(tile_.dstStep)) & (kVectorBytes - 1)) == 0;
+        // Source rows i - 1 and i give destination rows 2i - 1 and 2i.
+        const auto walk = [&](auto streamed) KVRI_INLINE {
+            for (int i = (begin + 1) / 2; i <= (begin + height) / 2; ++i) {
+                const int lower = tile_.rows(i), firstRow = std::max(2 * i - 1 - begin, 0), rows = std::min(2 * i - begin, height - 1) - firstRow + 1;
+                uint16_t *above = sums_[tile_.rows(i - 1) & 1], *below = sums_[lower & 1];
+                uint8_t* dst = tile_.destination(firstRow, column, C);
+                const bool isNew = lower != summed;
+                if (isNew && rows == 2 && before == 0) {
+                    sumAndCombine<streamed>(sourceRow(lower), above, below, samples, dst, dst + tile_.dstStep);
+                } else {
+                    if (isNew) sumAlong(sourceRow(lower), samples, below);
+                    for (int row = firstRow; row < firstRow + rows; ++row, dst += tile_.dstStep) {
+                        if ((begin + row) % 2 == 0) combine(below, above, samples, result_);
+                        else combine(above, below, samples, result_);
+                        std::memcpy(dst, result_ + before, size_t(samples - before));
+                    }
+                }
+                if (isNew) copyNext();
+                summed = lower;
             }
-            copyNext();
         };
         for (int i = 0; i < ahead; ++i) copyNext();
         ++summed;
-        sumAlong(sourceRow(summed), samples, sums_[summed & 1], [](auto...) KVRI_INLINE {});
-        for (int y = begin;;) {
-            if (before > 0) {
-                rowOf(y, std::false_type{}, result_);
-                std::memcpy(dst, result_ + before, size_t(samples - before));
-            } else if (streams) {
-                rowOf(y, std::true_type{}, dst);
-            } else {
-                rowOf(y, std::false_type{}, dst);
-            }
-            if (++y == begin + height) return;
-            dst += tile_.dstStep;
-        }
+        sumAlong(sourceRow(summed), samples, sums_[summed & 1]);
+        if (tile_.streams && aligned) walk(std::true_type{});
+        else walk(std::false_type{});
     }
 
     // Byte i of what is multiplied for one half of the lanes of a vector, the `Vector`th of a period: a tap of a sample.
@@ -132,53 +130,52 @@ private:
 
     // Calls step(vector of samples, their sums) for whole periods.
     template <class Step>
-    KVRI_INLINE static void sumAlong(const uint8_t* row, int samples, uint16_t* sums, Step step) {
+    KVRI_INLINE static void eachSum(const uint8_t* row, int samples, Step step) {
         for (int i = 0; i < samples; i += period * kVectorBytes)
             unroll<period>([&](auto vector) KVRI_INLINE {
                 const int at = i + vector * kVectorBytes;
                 const Bytes<> source = lanesAt(row, at);
-                const Words first = sumTaps<vector, 0>(source), second = sumTaps<vector, 1>(source);
-                store(sums + at, first);
-                store(sums + at + kVectorBytes / 2, second);
-                step(at, first, second);
+                step(at, sumTaps<vector, 0>(source), sumTaps<vector, 1>(source));
             });
     }
 
-    // Pixels from the sums at `near` and others.
-    class Combine {
-        const uint16_t* near_;
-        Words three_ = loadedOnce(splat<Words>(3));  // not to become shifts, of which there are enough
+    static void sumAlong(const uint8_t* row, int samples, uint16_t* sums) {
+        eachSum(row, samples, [&](int at, Words first, Words second) KVRI_INLINE {
+            store(sums + at, first);
+            store(sums + at + kVectorBytes / 2, second);
+        });
+    }
 
-        Vec<int16_t> half(int at, Words far) const { return (Vec<int16_t>)((load<Words>(near_ + at) * three_ + far) >> 4); }
+    // What is 3, but not to the compiler: shifts in place of products would be too many.
+    static Words three() { return loadedOnce(splat<Words>(3)); }
+    static Vec<int16_t> weighted(Words near, Words far, Words three) { return (Vec<int16_t>)((near * three + far) >> 4); }
 
-    public:
-        explicit Combine(const uint16_t* near) : near_(near) {}
-        Bytes<> operator()(int at, Words first, Words second) const {
-            return (Bytes<>)narrow<uint8_t>(half(at, first), half(at + kVectorBytes / 2, second));
+    static void combine(const uint16_t* near, const uint16_t* far, int samples, uint8_t* dst) {
+        const Words three = LinearDoubler::three();
+        for (int i = 0; i < samples; i += kVectorBytes) {
+            const auto half = [&](int at) KVRI_INLINE { return weighted(load<Words>(near + at), load<Words>(far + at), three); };
+            store(dst + i, narrow<uint8_t>(half(i), half(i + kVectorBytes / 2)));
         }
-    };
+    }
+
+    // Both rows between `above` and the sums of a row, which are kept at `below`.
+    template <bool Streamed>
+    static void sumAndCombine(const uint8_t* row, const uint16_t* above, uint16_t* below, int samples, uint8_t* upper, uint8_t* lower) {
+        const Words three = LinearDoubler::three();
+        eachSum(row, samples, [&](int at, Words first, Words second) KVRI_INLINE {
+            store(below + at, first);
+            store(below + at + kVectorBytes / 2, second);
+            const Words a = loadedOnce(load<Words>(above + at)), b = loadedOnce(load<Words>(above + at + kVectorBytes / 2));
+            put<Streamed>(upper + at, narrow<uint8_t>(weighted(a, first, three), weighted(b, second, three)), samples - at);
+            put<Streamed>(lower + at, narrow<uint8_t>(weighted(first, a, three), weighted(second, b, three)), samples - at);
+        });
+    }
 
     template <bool Streamed>
-    static void storePixels(uint8_t* dst, Bytes<> v, int samples) {
+    static void put(uint8_t* dst, Bytes<> v, int samples) {
         if (samples < kVectorBytes) storePart(dst, v, samples);
         else if constexpr (Streamed) stream(dst, v);
         else store(dst, v);
-    }
-
-    template <bool Streamed>
-    static void combine(const uint16_t* near, const uint16_t* far, int samples, uint8_t* dst) {
-        const Combine pixels(near);
-        for (int i = 0; i < samples; i += kVectorBytes)
-            storePixels<Streamed>(dst + i, pixels(i, load<Words>(far + i), load<Words>(far + i + kVectorBytes / 2)), samples - i);
-    }
-
-    // The same where the sums at `far` are still to be formed.
-    template <bool Streamed>
-    static void sumAndCombine(const uint8_t* row, const uint16_t* near, uint16_t* far, int samples, uint8_t* dst) {
-        const Combine pixels(near);
-        sumAlong(row, samples, far, [&](int at, Words first, Words second) KVRI_INLINE {
-            storePixels<Streamed>(dst + at, pixels(at, first, second), samples - at);
-        });
     }
 };
 
