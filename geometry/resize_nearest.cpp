@@ -12,7 +12,7 @@
 namespace kvri {
 namespace {
 
-constexpr int kStripLanes = 512, kLane = 16;
+constexpr int kStripLanes = 2048, kLane = 16;
 
 // B: bytes of a pixel. The last lane ends with the row, over what the one before it has of the row; no lane is read from
 // beyond the strip's last source pixel.
@@ -56,11 +56,10 @@ public:
     }
 
     // src: the pixel of the first source column.
-    template <class Rows>
-    void apply(const uint8_t* src, Rows dst) const {
+    void apply(const uint8_t* src, uint8_t* dst) const {
         if (reach_ == kLane) return shuffleLanes<1>(src, dst);
         if (reach_ != 0) return shuffleLanes<2>(src, dst);
-        for (int i = 0, first = index[0]; i < pixels; ++i) std::memcpy(dst.row + i * B, src + ptrdiff_t(index[i] - first) * B, B);
+        for (int i = 0, first = index[0]; i < pixels; ++i) std::memcpy(dst + i * B, src + ptrdiff_t(index[i] - first) * B, B);
     }
 
 private:
@@ -88,48 +87,51 @@ private:
         return addSaturated(shuffle(begins, load<Lane>(kPixelOf[phase].data())), load<Lane>(kByteOf[phase].data()));
     }
 
-    template <int Loads, class Rows>
-    void shuffleLanes(const uint8_t* src, Rows dst) const {
-        for (int i = 0; i < lanes_; ++i) {
-            const uint8_t* p = src + base_[i];
-            const Lane place = place_[i];
-            Lane v;
-            if constexpr (Loads == 1) v = shuffle(load<Lane>(p), place);
-            else  // a control byte with its highest bit set gives 0
-                v = shuffle(load<Lane>(p), place + uint8_t(0x70)) | shuffle(load<Lane>(p + kLane), place - uint8_t(kLane));
-            if (i < lanes_ - 1) dst.put(i * kLane, v);
-            else store(dst.row + start(i), v);
-        }
+    template <int Loads>
+    void shuffleLanes(const uint8_t* src, uint8_t* dst) const {
+        constexpr int perVector = kVectorBytes / kLane;
+        int lane = 0;
+        for (; lane + perVector < lanes_; lane += perVector) store(dst + lane * kLane, lanesFrom<Loads, kVectorBytes>(src, lane));
+        for (; lane < lanes_; ++lane) store(dst + start(lane), lanesFrom<Loads, kLane>(src, lane));
     }
-};
 
-template <bool Streamed>
-struct NearestRow {
-    uint8_t* row;
-
-    // Bytes that nothing else is written over, at multiples of the vector's size from the row's begin.
-    template <class V>
-    void put(ptrdiff_t at, V v) const {
-        if constexpr (Streamed) stream(row + at, v);
-        else store(row + at, v);
+    // W bytes of the destination, from lane `first` on.
+    template <int Loads, int W>
+    Bytes<W> lanesFrom(const uint8_t* src, int first) const {
+        const auto lanes = [&](int at) KVRI_INLINE {
+            return fromLanes<W>([&](int l) KVRI_INLINE { return load<Lane>(src + base_[first + l] + at); });
+        };
+        const auto place = load<Bytes<W>>(place_ + first);
+        if constexpr (Loads == 1) return shuffle(lanes(0), place);
+        else  // a control byte with its highest bit set gives 0
+            return shuffle(lanes(0), place + uint8_t(0x70)) | shuffle(lanes(kLane), place - uint8_t(kLane));
     }
 };
 
 // Calls fill(source row from `column` on, destination row from x on) for every destination row. Writing two that are alike at
 // a time would be slower: rows may lie a power of two apart.
 template <int B, class Fill>
-KVRI_INLINE void eachRowOf(const ResizeTile& tile, int x, int column, int alignment, Fill fill) {
+KVRI_INLINE void eachRowOf(const ResizeTile& tile, int x, int column, Fill fill) {
     const int32_t* index = tile.spec.table<int32_t>(tile.spec.y.index) + tile.offset.y;
     uint8_t* dst = tile.destination(0, x, B);
-    const auto walk = [&](auto streamed) KVRI_INLINE {
-        for (int y = 0;; dst += tile.dstStep) {
-            fill(tile.source(index[y], column, B), NearestRow<streamed>{dst});
-            if (++y == tile.size.height) return;
-        }
-    };
-    const bool aligned = ((reinterpret_cast<uintptr_t>(dst) | uintptr_t(tile.dstStep)) & uintptr_t(alignment - 1)) == 0;
-    if (tile.streams && aligned) walk(std::true_type{});
-    else walk(std::false_type{});
+    for (int y = 0;; dst += tile.dstStep) {
+        fill(tile.source(index[y], column, B), dst);
+        if (++y == tile.size.height) return;
+    }
+}
+
+template <bool Streamed, class V>
+void put(uint8_t* dst, V v) {
+    if constexpr (Streamed) stream(dst, v);
+    else store(dst, v);
+}
+
+// Calls run(whether vectors of W bytes at multiples of W from the begin of a row are to be streamed, as a constant).
+template <int W, class Run>
+void chooseStreaming(const ResizeTile& tile, Run run) {
+    const bool aligned = ((reinterpret_cast<uintptr_t>(tile.dst) | uintptr_t(tile.dstStep)) & (W - 1)) == 0;
+    if (tile.streams && aligned) run(std::true_type{});
+    else run(std::false_type{});
 }
 
 // Every second column.
@@ -138,15 +140,17 @@ bool halveColumns(const ResizeTile& tile) {
     using Pairs = PixelPairs<W, B>;
     const ptrdiff_t n = ptrdiff_t(tile.size.width) * B, last = n - Pairs::bytes;
     if (last < 0) return false;
-    eachRowOf<B>(tile, 0, 2 * tile.offset.x, W, [=](const uint8_t* src, auto dst) KVRI_INLINE {
-        for (ptrdiff_t i = 0; i < last; i += Pairs::bytes) {
-            const uint8_t* p = src + 2 * i;
-            const auto v = Pairs::ordered(Pairs::template pick<Pairs::Firsts>(Pairs::firstLoad(p), Pairs::secondLoad(p)));
-            if constexpr (Pairs::bytes == W) dst.put(i, v);
-            else Pairs::put(dst.row + i, v);
-        }
-        const uint8_t* p = src + 2 * last;
-        Pairs::put(dst.row + last, Pairs::ordered(Pairs::template pick<Pairs::FirstsEarlier>(Pairs::firstLoad(p), Pairs::earlierLoad(p))));
+    chooseStreaming<W>(tile, [&](auto streamed) {
+        eachRowOf<B>(tile, 0, 2 * tile.offset.x, [=](const uint8_t* src, uint8_t* dst) KVRI_INLINE {
+            for (ptrdiff_t i = 0; i < last; i += Pairs::bytes) {
+                const uint8_t* p = src + 2 * i;
+                const auto v = Pairs::ordered(Pairs::template pick<Pairs::Firsts>(Pairs::firstLoad(p), Pairs::secondLoad(p)));
+                if constexpr (Pairs::bytes == W) put<streamed>(dst + i, v);
+                else Pairs::put(dst + i, v);
+            }
+            const uint8_t* p = src + 2 * last;
+            Pairs::put(dst + last, Pairs::ordered(Pairs::template pick<Pairs::FirstsEarlier>(Pairs::firstLoad(p), Pairs::earlierLoad(p))));
+        });
     });
     return true;
 }
@@ -158,20 +162,31 @@ bool doubleColumns(const ResizeTile& tile) {
     const int before = tile.offset.x % 2, pairs = (tile.size.width - before) / 2, behind = tile.size.width - before - 2 * pairs;
     const ptrdiff_t n = ptrdiff_t(pairs) * 2 * B, begin = before * B;
     if (n < Twice::bytes) return false;
-    eachRowOf<B>(tile, 0, tile.offset.x / 2, W, [=](const uint8_t* src, auto dst) KVRI_INLINE {
-        if (before) std::memcpy(dst.row, src, B);
-        if (behind) std::memcpy(dst.row + begin + n, src + begin + n / 2, B);
-        uint8_t* row = dst.row + begin;
-        src += begin;
-        const auto overwrite = [&](ptrdiff_t i) KVRI_INLINE { Twice::block(src + i / 2, [&](int at, auto v) KVRI_INLINE { store(row + i + at, v); }); };
-        ptrdiff_t i = 0;
-        if (before)
-            for (; n - i >= Twice::bytes; i += Twice::bytes) overwrite(i);
-        else
-            for (; n - i >= Twice::bytes; i += Twice::bytes) Twice::block(src + i / 2, [&](int at, auto v) KVRI_INLINE { dst.put(i + at, v); });
-        if (i < n) overwrite(n - Twice::bytes);
-    });
+    const auto rows = [&](auto streamed) {
+        eachRowOf<B>(tile, 0, tile.offset.x / 2, [=](const uint8_t* src, uint8_t* dst) KVRI_INLINE {
+            if (before) std::memcpy(dst, src, B);
+            if (behind) std::memcpy(dst + begin + n, src + begin + n / 2, B);
+            src += begin, dst += begin;
+            ptrdiff_t i = 0;
+            for (; n - i >= Twice::bytes; i += Twice::bytes)
+                Twice::block(src + i / 2, [&](int at, auto v) KVRI_INLINE { put<streamed>(dst + i + at, v); });
+            if (i == n) return;
+            i = n - Twice::bytes;
+            Twice::block(src + i / 2, [&](int at, auto v) KVRI_INLINE { store(dst + i + at, v); });
+        });
+    };
+    if (before) rows(std::false_type{});
+    else chooseStreaming<W>(tile, rows);
     return true;
+}
+
+// Whole vectors past the caches, wherever the row begins.
+void streamRow(uint8_t* dst, const uint8_t* from, ptrdiff_t n) {
+    const ptrdiff_t head = std::min<ptrdiff_t>(-reinterpret_cast<intptr_t>(dst) & (kVectorBytes - 1), n);
+    storePart(dst, load<Bytes<>>(from), head);
+    ptrdiff_t i = head;
+    for (; n - i >= kVectorBytes; i += kVectorBytes) stream(dst + i, load<Bytes<>>(from + i));
+    storePart(dst + i, load<Bytes<>>(from + i), n - i);
 }
 
 template <int B>
@@ -179,8 +194,32 @@ void byStrips(const ResizeTile& tile) {
     NearestStrip<B> strip;
     for (int x = 0; x < tile.size.width; x += strip.most) {
         strip.prepare(tile.spec, tile.offset.x + x, std::min(strip.most, tile.size.width - x));
-        eachRowOf<B>(tile, x, strip.index[0], kLane, [&](const uint8_t* src, auto dst) KVRI_INLINE { strip.apply(src, dst); });
+        if (tile.streams) {
+            uint8_t row[kStripLanes * kLane + kVectorBytes];
+            eachRowOf<B>(tile, x, strip.index[0], [&](const uint8_t* src, uint8_t* dst) KVRI_INLINE {
+                strip.apply(src, row);
+                streamRow(dst, row, ptrdiff_t(strip.pixels) * B);
+            });
+        } else {
+            eachRowOf<B>(tile, x, strip.index[0], [&](const uint8_t* src, uint8_t* dst) KVRI_INLINE { strip.apply(src, dst); });
+        }
     }
+}
+
+// Pixels of a whole lane.
+void byLanes(const ResizeTile& tile) {
+    const int32_t* index = tile.spec.table<int32_t>(tile.spec.x.index) + tile.offset.x;
+    const int width = tile.size.width, column = index[0];
+    chooseStreaming<kLane>(tile, [&](auto streamed) {
+        eachRowOf<kLane>(tile, 0, column, [=](const uint8_t* src, uint8_t* dst) KVRI_INLINE {
+            const auto pixel = [&](int i) KVRI_INLINE { return load<Bytes<kLane>>(src + ptrdiff_t(index[i] - column) * kLane); };
+            int i = 0;
+            constexpr int perVector = streamed ? 1 : kVectorBytes / kLane;
+            for (; i + perVector <= width; i += perVector)
+                put<streamed>(dst + ptrdiff_t(i) * kLane, fromLanes<perVector * kLane>([&](int l) KVRI_INLINE { return pixel(i + l); }));
+            for (; i < width; ++i) store(dst + ptrdiff_t(i) * kLane, pixel(i));
+        });
+    });
 }
 
 template <int B>
@@ -191,7 +230,8 @@ void resizeNearest(const ResizeTile& tile) {
     } else if (x.reducedSource == 1 && x.reducedDestination == 2) {
         if (doubleColumns<B, kVectorBytes>(tile) || doubleColumns<B, kShuffleBytes>(tile) || doubleColumns<B, 16>(tile)) return;
     }
-    byStrips<B>(tile);
+    if constexpr (B == kLane) byLanes(tile);
+    else byStrips<B>(tile);
 }
 
 template <class T, class L>
