@@ -52,6 +52,13 @@ struct MeansOfMeans {
 template <int C, Ties ties>
 class MeansOfSums {
     static constexpr int laneBytes = C == 3 ? 12 : 16;  // source bytes that a lane takes: whole pairs of pixels
+#if defined(__AVX512BW__)
+    template <int W>
+    static constexpr bool narrowsOne = C == 1 && W > 16;  // a vector of words by itself
+#else
+    template <int W>
+    static constexpr bool narrowsOne = false;
+#endif
 
     template <class V>
     static V mean(V sum) {
@@ -85,12 +92,14 @@ class MeansOfSums {
 
 public:
     template <int W>
-    static constexpr int bytes = W / 16 * laneBytes;
+    static constexpr int bytes = narrowsOne<W> ? W / 2 : W / 16 * laneBytes;
 
     template <int W>
     static void block(const uint8_t* p, const uint8_t* q, uint8_t* dst) {
         constexpr int lanes = W / 16;
-        if constexpr (C == 3) {  // the second of each two lanes is loaded from 4 bytes before, to stay inside
+        if constexpr (narrowsOne<W>) {
+            store(dst, __builtin_convertvector(means<W, 16, 0>(p, q), Bytes<W / 2>));
+        } else if constexpr (C == 3) {  // the second of each two lanes is loaded from 4 bytes before, to stay inside
             const auto v = (Bytes<W>)narrow<uint8_t>(means<W, 24, 0>(p, q), means<W, 24, 4>(p + 8, q + 8));
             const auto packed = shuffle(v, constant<Bytes<W>>([](int i) { return i % 16 < 6 ? i % 16 : i % 16 < 12 ? i % 16 + 2 : 128; }));
             if constexpr (lanes == 1) storePart(dst, packed, 12);

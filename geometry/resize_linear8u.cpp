@@ -265,7 +265,11 @@ private:
         const int32_t* index = spec_.table<int32_t>(spec_.y.index) + tile_.offset.y;
         const int32_t* weight = spec_.table<int32_t>(spec_.y.weights) + tile_.offset.y;
         for (; y < end; ++y) {
-            tile_.prefetchDestination(y + 2, x, strip_.pixels, C);
+            constexpr int ahead = 6;
+            if (y + ahead < end) {
+                tile_.prefetchDestination(y + ahead, x, strip_.pixels, C);
+                prefetch(tile_.source(index[y + ahead], strip_.first, C), strip_.columns * C);
+            }
             const uint8_t* upper = sums(index[y]);
             const uint8_t* lower = weight[y] == 0 ? upper : sums(index[y] + 1);
             uint8_t* dst = tile_.destination(y, x, C);
