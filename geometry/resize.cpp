@@ -159,17 +159,23 @@ private:
     }
 };
 
+// A function of its own, so that halving needs no large frame.
+template <class T, int C>
+[[gnu::noinline]] void resizeByWeights(const ResizeTile& tile) {
+    const DefaultFloatControl control;
+    Resizer<T, C>(tile).run();
+}
+
 template <class T, class L, KvriInterpolationType Method, bool Antialiasing = false>
 KvrStatus resize(const T* pSrc, int srcStep, T* pDst, int dstStep, KvriPoint dstOffset, KvriSize dstSize, KvriBorderType border,
                  const T*, const KvriResizeSpec* pSpec, Kvr8u* pBuffer) {
     constexpr bool isDouble = std::is_same_v<T, Kvr64f>;
     constexpr Accepts accepts{isDouble ? kResizeSpecId64f : kResizeSpecId, Method, Antialiasing,
                               isDouble ? ResizeWeights::Double : ResizeWeights::Float};
-    const auto run = [](const ResizeTile& tile) {
+    const auto run = [](const ResizeCall& call) KVRI_INLINE {
         if constexpr (!isDouble && (Method == kvrInterpLinear || Method == kvrInterpSuper))
-            if (halves(tile.spec)) return Halver<T, L::channels, Ties::Even>::run(tile);
-        const DefaultFloatControl control;
-        Resizer<T, L::channels>(tile).run();
+            if (halves(call.spec)) return Halver<T, L::channels, Ties::Even>::run(call);
+        resizeByWeights<T, L::channels>(call);
     };
     return applyResize<L::channels>(accepts, run, pSrc, srcStep, pDst, dstStep, dstOffset, dstSize, border, pSpec, pBuffer);
 }

@@ -170,23 +170,23 @@ class Halver {
 
     // The caller's pointer is to the first pixel that the tile uses.
     template <class Row>
-    KVRI_INLINE static void rows(const ResizeTile& tile, Row row) {
-        const ptrdiff_t n = ptrdiff_t(tile.size.width) * pixelBytes;
-        const uint8_t* p = tile.src;
-        uint8_t* dst = tile.dst;
-        for (int y = tile.size.height;;) {
-            row(p, p + tile.srcStep, dst, n);
+    KVRI_INLINE static void rows(const ResizeCall& call, Row row) {
+        const ptrdiff_t n = ptrdiff_t(call.size.width) * pixelBytes;
+        const uint8_t* p = call.src;
+        uint8_t* dst = call.dst;
+        for (int y = call.size.height;;) {
+            row(p, p + call.srcStep, dst, n);
             if (--y == 0) return;
-            p += 2 * tile.srcStep;
-            dst += tile.dstStep;
+            p += 2 * call.srcStep;
+            dst += call.dstStep;
         }
     }
 
 public:
-    static void run(const ResizeTile& tile) {
+    static void run(const ResizeCall& call) {
         const auto wide = [&]<int W>(std::integral_constant<int, W>) {
-            if (tile.size.width * ptrdiff_t(pixelBytes) < Means::template bytes<W>) return false;
-            rows(tile, [](auto... row) KVRI_INLINE { Halver::row<W>(row...); });
+            if (call.size.width * ptrdiff_t(pixelBytes) < Means::template bytes<W>) return false;
+            rows(call, [](auto... row) KVRI_INLINE { Halver::row<W>(row...); });
             return true;
         };
         const auto widest = [&] {
@@ -195,9 +195,9 @@ public:
         };
         if constexpr (std::is_floating_point_v<T>) {
             const DefaultFloatControl control;
-            if (!widest()) rows(tile, samples);
+            if (!widest()) rows(call, samples);
         } else if (!widest()) {
-            rows(tile, samples);
+            rows(call, samples);
         }
     }
 };

@@ -298,14 +298,19 @@ template <int C, bool Eighths>
     return LinearResizer<C, Eighths>(tile).run();
 }
 
+template <int C>
+[[gnu::noinline]] void resizeOther(const ResizeTile& tile) {
+    if (doubles(tile.spec)) doubleSize<C>(tile);
+    else if (!resizeStrips<C, true>(tile)) resizeStrips<C, false>(tile);
+}
+
 template <class L>
 KvrStatus linear(const Kvr8u* pSrc, int srcStep, Kvr8u* pDst, int dstStep, KvriPoint dstOffset, KvriSize dstSize, KvriBorderType border,
                  const Kvr8u*, const KvriResizeSpec* pSpec, Kvr8u* pBuffer) {
     constexpr Accepts accepts{kResizeSpecId, kvrInterpLinear, false, ResizeWeights::Fixed14};
-    const auto run = [](const ResizeTile& tile) {
-        if (halves(tile.spec)) Halver<Kvr8u, L::channels, Ties::Up>::run(tile);
-        else if (doubles(tile.spec)) doubleSize<L::channels>(tile);
-        else if (!resizeStrips<L::channels, true>(tile)) resizeStrips<L::channels, false>(tile);
+    const auto run = [](const ResizeCall& call) KVRI_INLINE {
+        if (halves(call.spec)) Halver<Kvr8u, L::channels, Ties::Up>::run(call);
+        else resizeOther<L::channels>(call);
     };
     return applyResize<L::channels>(accepts, run, pSrc, srcStep, pDst, dstStep, dstOffset, dstSize, border, pSpec, pBuffer);
 }
