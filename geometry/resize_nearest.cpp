@@ -139,7 +139,7 @@ template <int B, int W>
 bool halveColumns(const ResizeTile& tile) {
     using Pairs = PixelPairs<W, B>;
     const ptrdiff_t n = ptrdiff_t(tile.size.width) * B, last = n - Pairs::bytes;
-    if (last < 0) return false;
+    if (!Pairs::endsWithFirst || last < 0) return false;
     chooseStreaming<W>(tile, [&](auto streamed) {
         eachRowOf<B>(tile, 0, 2 * tile.offset.x, [=](const uint8_t* src, uint8_t* dst) KVRI_INLINE {
             for (ptrdiff_t i = 0; i < last; i += Pairs::bytes) {

@@ -21,6 +21,8 @@ class PixelPairs {
 
 public:
     static constexpr int bytes = threes ? W / 4 * 3 : W;  // of the pairs' firsts
+    // Whether firstLoad() stays within a row that ends with a first.
+    static constexpr bool endsWithFirst = (threes && !permutes ? 24 - 16 : 2 * bytes - W) >= B;
 
     // Where lanes are shuffled, a lane of each vector has 16 of 24 bytes of threes.
     static V firstLoad(const uint8_t* row) {
@@ -28,8 +30,7 @@ public:
         else return load<V>(row);
     }
     static V secondLoad(const uint8_t* row) { return firstLoad(row + second); }
-    // A pixel before that; nothing where the first vector has all firsts.
-    static V earlierLoad(const uint8_t* row) { return second < B ? V{} : firstLoad(row + second - B); }
+    static V earlierLoad(const uint8_t* row) { return firstLoad(row + second - B); }
 
     // In an order that ordered() expects. FirstsEarlier: firsts, with a second vector of earlierLoad(), which stays within
     // a row that ends with a first.

@@ -113,6 +113,52 @@ TEST(Resize, TilesGiveThePixelsOfTheWhole) {
         }
 }
 
+// A tile of Nearest needs no more than the source region that it is told to have.
+TEST(Resize, NearestReadsItsSourceRegionOnly) {
+    for (const Case& c : cases()) {
+        if (c.method != kvrInterpNearest) continue;
+        for (int seed = 0; seed < 120; ++seed) {
+            Random random(uint64_t(seed) + 300);
+            const Scene s = randomScene(c, random, seed % 4 == 0 ? 300 : 90, 8);
+            const TestImage whole(c.pixelBytes() * s.dst.width, s.dst.height, random);
+            ASSERT_EQ(s.run({0, 0}, s.dst, whole, random), kvrStatusOk);
+            const KvriPoint at{random.in(0, s.dst.width - 1), random.in(0, s.dst.height - 1)};
+            const KvriSize size{random.in(1, s.dst.width - at.x), random.in(1, s.dst.height - at.y)};
+            KvriPoint from;
+            KvriSize region;
+            ASSERT_EQ(s.object.q.srcRoi(s.object.spec(), at, size, &from, &region), kvrStatusOk);
+            const TestImage part(region.width * c.pixelBytes(), region.height, random), tile(size.width * c.pixelBytes(), size.height, random);
+            for (int y = 0; y < region.height; ++y) std::memcpy(part.row(y), s.pixel(from.x, from.y + y), size_t(part.rowBytes));
+            std::vector<uint8_t> buffer(size_t(s.object.bufferBytes(size)));
+            const Call call{part.roi, part.step, tile.roi, tile.step, at, size, s.border};
+            ASSERT_EQ(c.apply(call, s.object.spec(), buffer.data()), kvrStatusOk) << describe(s);
+            for (int y = 0; y < size.height; ++y)
+                ASSERT_EQ(std::memcmp(tile.row(y), whole.row(at.y + y) + at.x * c.pixelBytes(), size_t(tile.rowBytes)), 0) << describe(s);
+        }
+    }
+}
+
+// A destination that exceeds the cache is streamed: rows of whole vectors and others, against tiles that are not.
+TEST(Resize, LargeGivesThePixelsOfTiles) {
+    for (const Case& c : cases()) {
+        if (c.antialiasing() || c.method == kvrInterpCubic || c.method == kvrInterpLanczos) continue;
+        constexpr KvriSize kRatios[] = {{2, 1}, {1, 2}, {10, 7}, {5, 7}};
+        for (const KvriSize& ratio : kRatios)
+            for (const int padding : {0, 21}) {
+                if (c.method == kvrInterpSuper && ratio.width < ratio.height) continue;
+                Random random(uint64_t(padding) + 3);
+                const KvriSize dst{640 + padding, 0x80000 / (640 * c.pixelBytes()) + 2};
+                const KvriSize src{std::max(2, dst.width * ratio.width / ratio.height), std::max(2, dst.height * ratio.width / ratio.height)};
+                const Scene s(c, {}, src, {dst.width, dst.height}, kvrBorderRepl, random);
+                const int rowBytes = c.pixelBytes() * dst.width;
+                const TestImage whole(rowBytes, dst.height, rowBytes + padding, Edge::Begin), tiled(rowBytes, dst.height, rowBytes + padding, Edge::Begin);
+                ASSERT_EQ(s.run({0, 0}, dst, whole, random), kvrStatusOk);
+                for (int y = 0; y < dst.height; y += 9) ASSERT_EQ(s.run({0, y}, {dst.width, 9}, tiled, random), kvrStatusOk);
+                for (int y = 0; y < dst.height; ++y) ASSERT_EQ(std::memcmp(whole.row(y), tiled.row(y), size_t(rowBytes)), 0) << describe(s);
+            }
+    }
+}
+
 // Against sums in double precision: integers within 1, single precision within 4 units in the last place of the range.
 TEST(Resize, IsCloseToTheExactSum) {
     for (const Case& c : cases()) {
