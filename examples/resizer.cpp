@@ -123,9 +123,8 @@ RowRange Resizer::sourceRows(RowRange destination) const {
     KvriBorderSize border{};
     functions_.getSrcRoi(spec(), KvriPoint{0, destination.first}, KvriSize{1, destination.count()}, &offset, &size);
     functions_.getBorderSize(spec(), &border);
-    // The region ends at the last position. Super's pixels cover rows from there on, the first and last in part; of the
-    // antialiased kernels, a tap that weighs nothing may lie one row beyond the border.
-    const int further = method_.interpolation == kvrInterpSuper ? source_.height / destination_.height + 1 : 1;
+    // The region ends at the last position. Super's pixels cover rows from there on, the first and last in part.
+    const int further = method_.interpolation == kvrInterpSuper ? source_.height / destination_.height + 1 : 0;
     return {std::max(offset.y - border.top, 0), std::min(offset.y + size.height + border.bottom + further, source_.height)};
 }
 

@@ -8,127 +8,189 @@
 #include "core/fpcontrol.h"
 #include "core/layout.h"
 #include "geometry/resize_apply.h"
+#include "geometry/resize_double.h"
 #include "geometry/resize_halve.h"
-#include "geometry/resize_rows.h"
+#include "geometry/resize_strip.h"
+#include "geometry/resize_whole.h"
 
 namespace kvri {
 namespace {
 
+// Rows between the passes that the stack has room for; of more, the caller's buffer holds as many as a pixel has taps.
+constexpr int kRingRows = 8;
+
 template <class T, int C>
 class Resizer {
     using F = RealOf<T>;
-    static constexpr ptrdiff_t pixelBytes = C * sizeof(T);
+    static constexpr ptrdiff_t pixelBytes = C * sizeof(T), rowStride = kStripRowBytes / sizeof(F);
+    static constexpr bool sideBySide = C > 1 && sizeof(F) == 4;  // rows first
 
     const ResizeTile& tile_;
     const ResizeSpec& spec_ = tile_.spec;
     Strip<F> strip_;
-    alignas(64) F row_[kStripRowBytes / sizeof(F)];  // the strip's source columns
+    alignas(64) F rows_[kGroupRows * rowStride];  // the strip's source columns, of a group
+    alignas(64) F ring_[kRingRows * kStripSamples];
 
 public:
     explicit Resizer(const ResizeTile& tile) : tile_(tile) {}
 
     void run() {
         const int n = Strip<F>::pixelsPerStrip(spec_, C);
-        if (n == 0) return runPixels();
+        if (n == 0 || spec_.y.taps > kMostSources) return runPixels();
         for (int x = 0; x < tile_.size.width; x += n) {
-            strip_.template prepare<C>(spec_, tile_.offset.x + x, std::min(n, tile_.size.width - x));
+            const int pixels = std::min(n, tile_.size.width - x);
+#if defined(__AVX512BW__)
+            if constexpr (sizeof(T) == 1)
+                if (wholeRows(x, pixels)) continue;
+#endif
+            strip_.template prepare<C>(spec_, tile_.offset.x + x, pixels, spec_.rowsFirst && sideBySide);
             if (spec_.rowsFirst) rowsFirst(x);
             else columnsFirst(x);
         }
     }
 
 private:
-    int firstRow(int y) const { return spec_.firstTap(spec_.y, tile_.offset.y + y); }
-    const F* rowWeights(int y) const {
-        return spec_.table<F>(spec_.y.weights) + ptrdiff_t((tile_.offset.y + y) % spec_.y.period) * spec_.y.positionStride;
+    int position(int y) const { return tile_.offset.y + y; }
+    // How many rows from y on are summed together.
+    int rowsTogether(int y, int sources) const {
+        return RowGroup<F>::rowsWithin(spec_, position(y), std::min(kGroupRows, tile_.size.height - y), sources);
+    }
+    auto sourceFrom(int low) const {
+        return [this, low](int row) { return tile_.source(row, low, pixelBytes); };
     }
 
-    // Source columns low to high summed over the rows of destination row y.
-    void sumSource(int y, int low, int high, F* sums) const {
-        const int taps = spec_.y.taps, first = firstRow(y);
-        const F* weight = rowWeights(y);
-        const ptrdiff_t samples = ptrdiff_t(high - low + 1) * C;
-        for (int t = 0; t < taps; t += kResizeRowGroup) {
-            const uint8_t* rows[kResizeRowGroup];
-            const int n = std::min(taps - t, kResizeRowGroup);
-            for (int k = 0; k < n; ++k) rows[k] = tile_.source(first + t + k, low, pixelBytes);
-            if (t == 0) sumRows<T>(rows, weight, n, samples, AlignedRowOf<F>(sums));
-            else sumRows<T, 0, true>(rows, weight + t, n, samples, sums, RowOf<F>(sums));
-        }
+    // Columns low to high of a row that begins with column `first` are there; those beyond up to `last` repeat them.
+    template <int numbers, class Number>
+    static void extend(Number* row, int first, int low, int high, int last) {
+        const auto repeat = [&](int column, int from, int to) {
+            const Number* edge = row + ptrdiff_t(column - first) * numbers;
+            for (int x = from; x < to; ++x) std::copy(edge, edge + numbers, row + ptrdiff_t(x - first) * numbers);
+        };
+        repeat(low, first, low);
+        repeat(high, high + 1, last + 1);
     }
 
-    // row[0] is of column `first`; columns low to high are there, those beyond up to `last` repeat them.
-    static void extend(F* row, int first, int low, int high, int last) {
-        const F* edge = row + ptrdiff_t(low - first) * C;
-        for (int i = 0; i < (low - first) * C; ++i) row[i] = edge[i % C];
-        edge = row + ptrdiff_t(high - first) * C;
-        for (int i = 0; i < (last - high) * C; ++i) row[(high + 1 - first) * C + i] = edge[i % C];
+    RowsOf<T> destination(int x, int y, int count) const {
+        RowsOf<T> rows{{}, count};
+        for (int r = 0; r < count; ++r) rows.p[r] = tile_.destination(y + r, x, pixelBytes);
+        return rows;
     }
 
     void rowsFirst(int x) {
-        const int low = tile_.columns(strip_.first), high = tile_.columns(strip_.last);
-        F* row = alignedLike(tile_.source(firstRow(0), low, pixelBytes), (low - strip_.first) * C);
-        for (int y = 0; y < tile_.size.height; ++y) {
-            if (y + 2 < tile_.size.height) prefetchSource(y + 2, low, high);
-            sumSource(y, low, high, row + ptrdiff_t(low - strip_.first) * C);
-            extend(row, strip_.first, low, high, strip_.last);
-            strip_.template apply<C>(row, RowOf<T>(tile_.destination(y, x, pixelBytes)));
+        const int first = strip_.first, last = strip_.last, low = tile_.columns(first), high = tile_.columns(last);
+        const ptrdiff_t samples = ptrdiff_t(high - low + 1) * C;
+        for (int y = 0, n; y < tile_.size.height; y += n) {
+            n = rowsTogether(y, kMostSources);
+            RowGroup<F> group(spec_, position(y), n);
+            group.setRows(sourceFrom(low));
+            prefetchSource(y + n, group.first + group.sources, low, samples * ptrdiff_t(sizeof(T)));
+            if constexpr (sideBySide) {
+                constexpr int column = Picker<F>::lanes;
+                sumRows<T>(group, samples, LaneColumns<C>(rows_ + ptrdiff_t(low - first) * column));
+                extend<column>(rows_, first, low, high, last);
+                strip_.template apply<C>(rows_, destination(x, y, n));
+            } else {
+                RowsOf<F> sums{{}, n};
+                for (int r = 0; r < n; ++r) sums.p[r] = reinterpret_cast<uint8_t*>(rows_ + r * rowStride + ptrdiff_t(low - first) * C);
+                sumRows<T>(group, samples, sums);
+                for (int r = 0; r < n; ++r) extend<C>(rows_ + r * rowStride, first, low, high, last);
+                strip_.template apply<C>(rows_, rowStride, destination(x, y, n));
+            }
         }
     }
 
-    // A place for a row whose sample `i` is as far from a whole vector as the source sample at p.
-    F* alignedLike(const uint8_t* p, int i) {
-        constexpr uintptr_t lanes = kReals<T>;
-        return row_ + (reinterpret_cast<uintptr_t>(p) / sizeof(T) - uintptr_t(i)) % lanes;
+#if defined(__AVX512BW__)
+    // Rows first in exact numbers; false, with nothing done, where the weights or the taps' places are not fit for it.
+    bool wholeRows(int x, int n) {
+        if (!spec_.whole() || !strip_.template prepareWhole<C>(spec_, tile_.offset.x + x, n)) return false;
+        const int first = strip_.first, last = strip_.last, low = tile_.columns(first), high = tile_.columns(last);
+        const ptrdiff_t samples = ptrdiff_t(high - low + 1) * C, stride = rowStride * 2;
+        auto* rows = reinterpret_cast<int16_t*>(rows_);
+        const int bits = spec_.x.wholeBits, begin = lessThanWhole(spec_.y) << bits;
+        for (int y = 0, n; y < tile_.size.height; y += n) {
+            n = WholeGroup::rowsWithin(spec_, position(y), std::min(kGroupRows, tile_.size.height - y));
+            prefetchSource(y + n, spec_.firstTap(spec_.y, position(y + n - 1)) + spec_.y.taps, low, samples);
+            WholeGroup(spec_, position(y), n, sourceFrom(low)).sum(samples, rows + ptrdiff_t(low - first) * C, stride);
+            for (int r = 0; r < n; ++r) extend<C>(rows + r * stride, first, low, high, last);
+            strip_.template applyWhole<C>(rows, stride, begin, bits + spec_.y.wholeBits, destination(x, y, n));
+        }
+        return true;
     }
+#endif
 
-    // Rows that destination row y is the first to use.
-    void prefetchSource(int y, int low, int high) const {
-        const int taps = spec_.y.taps, end = firstRow(y) + taps;
-        for (int row = std::max(firstRow(y - 1) + taps, end - kResizeRowGroup); row < end; ++row)
-            prefetch(tile_.source(row, low, pixelBytes), (high - low + 1) * pixelBytes);
+    // Rows from `row` on that the group of destination row y uses.
+    void prefetchSource(int y, int row, int low, ptrdiff_t bytes) const {
+        if (y >= tile_.size.height) return;
+        const int begin = spec_.firstTap(spec_.y, position(y)), last = std::min(y + kGroupRows, tile_.size.height) - 1;
+        const int end = std::min(spec_.firstTap(spec_.y, position(last)) + spec_.y.taps, begin + kMostSources);
+        for (row = std::max(row, begin); row < end; ++row) prefetch(tile_.source(row, low, pixelBytes), bytes);
     }
 
     void columnsFirst(int x) {
-        const int taps = spec_.y.taps;
-        const ptrdiff_t samples = ptrdiff_t(strip_.pixels) * C, ringStep = upTo32(samples * ptrdiff_t(sizeof(F)));
-        uint8_t* ring = tile_.buffer + (-reinterpret_cast<uintptr_t>(tile_.buffer) & 63);
+        Ring ring(tile_, spec_.y.taps, ptrdiff_t(strip_.pixels) * C, ring_);
+        for (int y = 0, n; y < tile_.size.height; y += n) {
+            n = rowsTogether(y, ring.slots);
+            RowGroup<F> group(spec_, position(y), n);
+            fill(ring, group, x);
+            group.setRows([&](int row) { return ring.place(tile_.rows(row)); });
+            for (int r = 0; r < n; ++r) tile_.prefetchDestination(y + n + r, x, strip_.pixels, pixelBytes);
+            const auto sum = [&](const auto& out) { sumRows<F>(group, ptrdiff_t(strip_.pixels) * C, out); };
+            const RowsOf<T> out = destination(x, y, n);
+            if (tile_.streams && alignedAlike(out)) sum(RowsOf<T, StreamedRowOf>{out.p, out.count});
+            else sum(out);
+        }
+    }
+
+    // Source rows resized along, by their number.
+    struct Ring {
+        F* rows;
+        ptrdiff_t step;
+        int slots, low;
         int held[kResizeRowGroup];
-        std::fill(held, held + taps, INT_MIN);
-        for (int y = 0; y < tile_.size.height; ++y) {
-            const uint8_t* rows[kResizeRowGroup];
-            const int first = firstRow(y);
-            for (int t = 0; t < taps; ++t) {
-                const int row = tile_.rows(first + t), slot = (row - tile_.rows.low) % taps;
-                uint8_t* place = ring + slot * ringStep;
-                if (held[slot] != row) {
-                    resizeSourceRow(row, x, RowOf<F>(place));
-                    held[slot] = row;
-                }
-                rows[t] = place;
+
+        Ring(const ResizeTile& tile, int taps, ptrdiff_t samples, F* here) : rows(here), step(kStripSamples), slots(kRingRows), low(tile.rows.low) {
+            if (taps > kRingRows) {
+                rows = reinterpret_cast<F*>(tile.buffer + (-reinterpret_cast<uintptr_t>(tile.buffer) & 63));
+                step = upTo32(samples * ptrdiff_t(sizeof(F))) / ptrdiff_t(sizeof(F));
+                slots = taps;
             }
-            tile_.prefetchDestination(y + 2, x, strip_.pixels, pixelBytes);
-            uint8_t* dst = tile_.destination(y, x, pixelBytes);
-            if (tile_.streams && reinterpret_cast<uintptr_t>(dst) % sizeof(T) == 0)
-                sumRows<F>(rows, rowWeights(y), taps, samples, StreamedRowOf<T>(dst));
-            else sumRows<F>(rows, rowWeights(y), taps, samples, RowOf<T>(dst));
+            std::fill(held, held + slots, INT_MIN);
         }
+        int slot(int row) const { return slots == kRingRows ? (row - low) % kRingRows : (row - low) % slots; }
+        uint8_t* place(int row) const { return reinterpret_cast<uint8_t*>(rows + slot(row) * step); }
+    };
+
+    // Rows of the group that the ring does not hold, as many at a time as share a pass.
+    void fill(Ring& ring, const RowGroup<F>& group, int x) {
+        int row[kGroupRows];
+        RowsOf<F> out{{}, 0};
+        for (int j = 0; j < group.sources; ++j) {
+            const int wanted = tile_.rows(group.first + j);
+            int& held = ring.held[ring.slot(wanted)];
+            if (held == wanted || group.used(j) == 0) continue;
+            held = wanted;
+            row[out.count] = wanted;
+            out.p[out.count++] = ring.place(wanted);
+            if (out.count == kGroupRows) resizeSourceRows(row, x, out), out.count = 0;
+        }
+        if (out.count > 0) resizeSourceRows(row, x, out);
     }
 
-    void resizeSourceRow(int row, int x, RowOf<F> out) {
-        if (strip_.sparse) {
-            copyTaps(row, x);
-        } else {
-            const int low = tile_.columns(strip_.first), high = tile_.columns(strip_.last);
-            F* inside = row_ + ptrdiff_t(low - strip_.first) * C;
-            convertRow<T>(tile_.source(row, low, pixelBytes), ptrdiff_t(high - low + 1) * C, RowOf<F>(inside));
-            extend(row_, strip_.first, low, high, strip_.last);
+    void resizeSourceRows(const int* row, int x, const RowsOf<F>& out) {
+        for (int r = 0; r < out.count; ++r) {
+            F* to = rows_ + r * rowStride;
+            if (strip_.sparse) {
+                copyTaps(row[r], x, to);
+            } else {
+                const int low = tile_.columns(strip_.first), high = tile_.columns(strip_.last);
+                convertRow<T>(tile_.source(row[r], low, pixelBytes), ptrdiff_t(high - low + 1) * C, RowOf<F>(to + ptrdiff_t(low - strip_.first) * C));
+                extend<C>(to, strip_.first, low, high, strip_.last);
+            }
         }
-        strip_.template apply<C>(row_, out);
+        strip_.template apply<C>(rows_, rowStride, out);
     }
 
-    void copyTaps(int row, int x) {
-        F* to = row_;
+    void copyTaps(int row, int x, F* to) {
         for (int i = 0; i < strip_.pixels; ++i) {
             const int first = spec_.firstTap(spec_.x, tile_.offset.x + x + i);
             for (int t = 0; t < spec_.x.taps; ++t) {
@@ -139,6 +201,22 @@ private:
         }
     }
 
+    static bool alignedAlike(const RowsOf<T>& rows) {
+        uintptr_t differences = 0;
+        for (int r = 0; r < rows.count; ++r) differences |= uintptr_t(rows.p[r] - rows.p[0]);
+        return differences % kVectorBytes == 0 && reinterpret_cast<uintptr_t>(rows.p[0]) % sizeof(T) == 0;
+    }
+
+    // Sums over the rows of destination row y, however many.
+    void sumColumns(int y, int low, ptrdiff_t samples, uint8_t* sums) const {
+        for (int t = 0; t < spec_.y.taps; t += kMostSources) {
+            RowGroup<F> group(spec_, position(y), 1, t, std::min(spec_.y.taps - t, kMostSources));
+            group.setRows(sourceFrom(low));
+            if (t == 0) sumRows<T>(group, samples, RowsOf<F>{{sums}, 1});
+            else sumRows<T>(group, samples, AddedRow<F>{{{sums}, 1}});
+        }
+    }
+
     // Where the taps of a single pixel fill a strip, they go to the caller's buffer.
     void runPixels() {
         F* sums = reinterpret_cast<F*>(tile_.buffer + (-reinterpret_cast<uintptr_t>(tile_.buffer) & (sizeof(F) - 1)));
@@ -146,7 +224,7 @@ private:
             const int position = tile_.offset.x + x, first = spec_.firstTap(spec_.x, position);
             const int low = tile_.columns(first), high = tile_.columns(first + spec_.x.taps - 1);
             for (int y = 0; y < tile_.size.height; ++y) {
-                sumSource(y, low, high, sums);
+                sumColumns(y, low, ptrdiff_t(high - low + 1) * C, reinterpret_cast<uint8_t*>(sums));
                 F pixel[C];
                 for (int t = 0; t < spec_.x.taps; ++t) {
                     const F* column = sums + ptrdiff_t(tile_.columns(first + t) - low) * C;
@@ -160,9 +238,11 @@ private:
 };
 
 // A function of its own, so that halving needs no large frame.
-template <class T, int C>
+template <class T, int C, KvriInterpolationType Method>
 [[gnu::noinline]] void resizeByWeights(const ResizeTile& tile) {
     const DefaultFloatControl control;
+    if constexpr (!std::is_same_v<T, Kvr64f> && sizeof(T) > 1 && Method == kvrInterpLinear)
+        if (doubles(tile)) return Doubler<T, C>(tile).run();
     Resizer<T, C>(tile).run();
 }
 
@@ -175,7 +255,7 @@ KvrStatus resize(const T* pSrc, int srcStep, T* pDst, int dstStep, KvriPoint dst
     const auto run = [](const ResizeCall& call) KVRI_INLINE {
         if constexpr (!isDouble && (Method == kvrInterpLinear || Method == kvrInterpSuper))
             if (halves(call.spec)) return Halver<T, L::channels, Ties::Even>::run(call);
-        resizeByWeights<T, L::channels>(call);
+        resizeByWeights<T, L::channels, Method>(call);
     };
     return applyResize<L::channels>(accepts, run, pSrc, srcStep, pDst, dstStep, dstOffset, dstSize, border, pSpec, pBuffer);
 }

@@ -92,7 +92,7 @@ KvrStatus applyResize(const Accepts& accepts, Run run, const T* pSrc, int srcSte
     if (KvrStatus e = carriesId(pSpec, accepts.id)) return e;
     if (KvrStatus e = firstError(hasPixels(dstSize), insideDestination(spec, dstOffset), accepts(spec), borderSupported(border))) return e;
     const KvriSize size = clipped(spec, dstOffset, dstSize);
-    const bool streams = exceedsCache(size, pixelBytes);
+    const bool streams = exceedsCache(size, 4 * pixelBytes);
     run(ResizeCall{spec, reinterpret_cast<const uint8_t*>(pSrc), srcStep, reinterpret_cast<uint8_t*>(pDst), dstStep, dstOffset, size, border,
                    pBuffer, streams});
     if (streams) fenceStreams();

@@ -1,181 +1,127 @@
-// geometry/resize_double.h: Linear of 8u at double size. Weights are 1/4 and 3/4, so a row's sums have 10 bits and a pixel's 12.
+// geometry/resize_double.h: Linear at twice the size. Weights are 1/4 and 3/4 everywhere: a source pixel's products serve two
+// destination columns, and those of a resized row two destination rows. Operations and their order are those of any ratio.
 #pragma once
 
-#include "core/lanes.h"
 #include "geometry/resize_apply.h"
+#include "geometry/resize_pick.h"
+#include "geometry/resize_rows.h"
 
 namespace kvri {
 
-inline bool doubles(const ResizeSpec& spec) {
-    return spec.x.reducedSource == 1 && spec.x.reducedDestination == 2 && spec.y.reducedSource == 1 && spec.y.reducedDestination == 2;
+inline bool doubles(const ResizeTile& tile) {
+    const auto twice = [](const ResizeAxis& a) { return a.reducedSource == 1 && a.reducedDestination == 2; };
+    return tile.spec.method == kvrInterpLinear && twice(tile.spec.x) && twice(tile.spec.y) && tile.offset.x % 2 == 0;
 }
 
-// A destination row is worked on in strips that begin with an even column. Destination columns 2s and 2s + 1 have their taps
-// in source columns s - 1 to s + 1: 16 destination samples in 16 bytes of a source row, 8 bytes on from those before them.
-template <int C>
-class LinearDoubler {
-    using Words = Vec<uint16_t>;
-    static constexpr int period = C == 3 ? 3 : 1, lanes = kVectorBytes / 16;
-    static constexpr int most = 4096 / C / 2 * 2;  // columns of a strip
-    static constexpr int stripSamples = 5120;      // with what whole periods have more; two rows of sums lie half a page more than pages apart
-    static constexpr int sourceBytes = stripSamples / 2 + kVectorBytes, mostAhead = 8;
+template <class T, int C>
+class Doubler {
+    using Pick = Picker<float>;
+    using V = Vec<float>;
+    static constexpr int lanes = Pick::lanes;
+    static constexpr int taken = lanes / C * C;  // samples of a vector: whole pixels
+    static constexpr int most = 256 / C;         // source pixels of a strip
+    static constexpr ptrdiff_t pixelBytes = C * sizeof(T);
 
     const ResizeTile& tile_;
-    alignas(64) uint8_t source_[2 * sourceBytes];
-    alignas(64) uint16_t sums_[2][stripSamples];  // per vector of destination samples: the first and the second half of each lane
-    alignas(64) uint8_t result_[stripSamples];
+    alignas(64) float rows_[2][C + most * C + 2 * lanes];  // two source rows: pixels and one on either side
+    alignas(64) float upper_[2 * most * C / taken * lanes + 4 * lanes];  // the source row above, resized along, as it came in vectors
 
 public:
-    explicit LinearDoubler(const ResizeTile& tile) : tile_(tile) {}
+    explicit Doubler(const ResizeTile& tile) : tile_(tile) {}
 
     void run() {
-        const int begin = tile_.offset.x / 2 * 2, end = tile_.offset.x + tile_.size.width;
-        for (int x = begin; x < end; x += most) strip(x, std::min(end, x + most));
+        const bool aligned = (reinterpret_cast<uintptr_t>(tile_.dst) | uintptr_t(tile_.dstStep)) % kVectorBytes == 0;
+        if (tile_.streams && aligned && taken == lanes) strips<true>();
+        else strips<false>();
     }
 
 private:
-    // Where a strip's source columns come from: `columns` of them from `low` on, the first and the last perhaps repeated.
-    struct SourceColumns {
-        const uint8_t* top;  // column `low` of row 0
-        ptrdiff_t bytes;
-        bool before, behind;
+    template <bool streams>
+    void strips() {
+        const int end = tile_.offset.x + tile_.size.width;
+        for (int x = tile_.offset.x; x < end; x += 2 * most) strip<streams>(x / 2, std::min(2 * most, end - x));
+    }
 
-        SourceColumns(const ResizeTile& tile, int first, int last) {
-            const int low = tile.columns(first), high = tile.columns(last);
-            top = tile.src - tile.origin.y * tile.srcStep + (ptrdiff_t(low) - tile.origin.x) * C;
-            bytes = ptrdiff_t(high - low + 1) * C;
-            before = low > first, behind = last > high;
+    // `width` destination columns from source column `first` on.
+    template <bool streams>
+    void strip(int first, int width) {
+        const int columns = (width + 1) / 2, x = 2 * first - tile_.offset.x, begin = tile_.offset.y, end = begin + tile_.size.height;
+        const int top = (begin + 1) / 2 - 1;  // the upper source row of the first destination row
+        fetch(top, first, columns);
+        fetch(top + 1, first, columns);
+        resizeRow(top, columns, [&](int s, V a, V b) KVRI_INLINE { store(upper(s), a), store(upper(s) + lanes, b); });
+        for (int source = top; 2 * source < end - 1; ++source) {
+            if (2 * source < end - 3) fetch(source + 2, first, columns);  // well before its use
+            const int y = 2 * source + 1 - begin;  // of the two destination rows between this source row and the next
+            const RowOf<T> odd(tile_.destination(y, x, pixelBytes)), even(tile_.destination(y + 1, x, pixelBytes));
+            const int samples = width * C;
+            if (y < 0) resizeRow(source + 1, columns, [&](int s, V a, V b) KVRI_INLINE { between<streams, false, true>(s, a, b, odd, even, samples); });
+            else if (y + 1 == tile_.size.height) resizeRow(source + 1, columns, [&](int s, V a, V b) KVRI_INLINE { between<streams, true, false>(s, a, b, odd, even, samples); });
+            else resizeRow(source + 1, columns, [&](int s, V a, V b) KVRI_INLINE { between<streams, true, true>(s, a, b, odd, even, samples); });
         }
+    }
 
-        void copy(const uint8_t* from, uint8_t* to) const {
-            if (before) std::memcpy(to, from, C), to += C;
-            ptrdiff_t i = 0;
-            for (; bytes - i >= kVectorBytes; i += kVectorBytes) store(to + i, load<Bytes<>>(from + i));
-            if (i < bytes) store(to + i, loadPart<Bytes<>>(from + i, bytes - i));
-            if (behind) std::memcpy(to + bytes, from + bytes - C, C);
-        }
-    };
+    // Two vectors a, b of a source row below upper_, which they replace.
+    template <bool streams, bool hasOdd, bool hasEven>
+    KVRI_INLINE void between(int s, V a, V b, const RowOf<T>& odd, const RowOf<T>& even, int samples) {
+        const V c = load<V>(upper(s)), d = load<V>(upper(s) + lanes);
+        if (hasOdd) put<streams>(odd, s, c * 0.75f + a * 0.25f, d * 0.75f + b * 0.25f, samples - s);
+        if (hasEven) put<streams>(even, s, c * 0.25f + a * 0.75f, d * 0.25f + b * 0.75f, samples - s);
+        store(upper(s), a);
+        store(upper(s) + lanes, b);
+    }
 
-    // Destination columns x to end - 1, x even; the first may lie before the tile.
-    void strip(int x, int end) {
-        const int samples = (end - x) * C, before = std::max(tile_.offset.x - x, 0) * C, height = tile_.size.height;
-        const int begin = tile_.offset.y, lastRow = tile_.rows((begin + height) / 2);
-        const SourceColumns columns(tile_, x / 2 - 1, end / 2);
-        // A row is copied long before it is read, in vectors at other places than it was written in: some rows of short ones.
-        const bool few = mostAhead * (samples / 2 + 3 * kVectorBytes) <= int(sizeof source_);
-        const int ahead = few ? mostAhead : 2, stride = int(sizeof source_) / ahead / 64 * 64;
-        const auto sourceRow = [&](int row) { return source_ + (row & (ahead - 1)) * stride; };
-        int copied = tile_.rows((begin + 1) / 2 - 1) - 1, summed = copied;
-        const auto copyNext = [&]() KVRI_INLINE {
-            if (copied == lastRow) return;
-            ++copied;
-            columns.copy(columns.top + copied * tile_.srcStep, sourceRow(copied));
+    float* upper(int s) { return upper_ + s / taken * lanes; }
+
+    template <bool streams>
+    KVRI_INLINE static void put(const RowOf<T>& row, int at, V a, V b, int samples) {
+        const auto write = [&](ptrdiff_t behind, Bytes<> v) KVRI_INLINE {
+            uint8_t* p = row.p + ptrdiff_t(at) * ptrdiff_t(sizeof(T)) + behind;
+            if constexpr (streams) stream(p, v);
+            else store(p, v);
         };
-        const int column = x - tile_.offset.x + before / C;
-        const bool aligned = ((reinterpret_cast<uintptr_t>(tile_.destination(0, column, C)) | uintptr_t(tile_.dstStep)) & (kVectorBytes - 1)) == 0;
-        // Source rows i - 1 and i give destination rows 2i - 1 and 2i.
-        const auto walk = [&](auto streamed) KVRI_INLINE {
-            for (int i = (begin + 1) / 2; i <= (begin + height) / 2; ++i) {
-                const int lower = tile_.rows(i), firstRow = std::max(2 * i - 1 - begin, 0), rows = std::min(2 * i - begin, height - 1) - firstRow + 1;
-                uint16_t *above = sums_[tile_.rows(i - 1) & 1], *below = sums_[lower & 1];
-                uint8_t* dst = tile_.destination(firstRow, column, C);
-                const bool isNew = lower != summed;
-                if (isNew && rows == 2 && before == 0) {
-                    sumAndCombine<streamed>(sourceRow(lower), above, below, samples, dst, dst + tile_.dstStep);
-                } else {
-                    if (isNew) sumAlong(sourceRow(lower), samples, below);
-                    for (int row = firstRow; row < firstRow + rows; ++row, dst += tile_.dstStep) {
-                        if ((begin + row) % 2 == 0) combine(below, above, samples, result_);
-                        else combine(above, below, samples, result_);
-                        std::memcpy(dst, result_ + before, size_t(samples - before));
-                    }
-                }
-                if (isNew) copyNext();
-                summed = lower;
+        if (samples >= 2 * lanes) {
+            if constexpr (sizeof(T) == 4) write(0, (Bytes<>)a), write(kVectorBytes, (Bytes<>)b);
+            else write(0, packedWords<T>(toNearest(a), toNearest(b)));
+        } else if (samples > lanes) {
+            row.one(at, a);
+            row.part(at + lanes, b, samples - lanes);
+        } else {
+            row.part(at, a, samples);
+        }
+    }
+
+    void fetch(int row, int first, int columns) {
+        float* p = rows_[row & 1];
+        const int low = tile_.columns(first - 1), high = tile_.columns(first + columns);
+        convertRow<T>(tile_.source(tile_.rows(row), low, pixelBytes), (high - low + 1) * C, RowOf<float>(p + (low - first + 1) * C));
+        if (low == first) std::copy_n(p + C, C, p);
+        if (high < first + columns) std::copy_n(p + columns * C, C, p + (columns + 1) * C);
+    }
+
+    // give(s, samples from 2 * taken * n on in two vectors): what is there behind 2 * taken of them is given again.
+    template <class Give>
+    KVRI_INLINE void resizeRow(int row, int columns, Give give) const {
+        const float* p = rows_[row & 1];
+        for (int s = 0; s < columns * C; s += taken) {
+            const V middle = load<V>(p + s + C) * 0.75f;
+            const V even = load<V>(p + s) * 0.25f + middle, odd = middle + load<V>(p + s + 2 * C) * 0.25f;
+            give(2 * s, Pick::template pick<2>(even, odd, interleaving<0>()), Pick::template pick<2>(even, odd, interleaving<1>()));
+        }
+    }
+
+    // Pixels of an even and an odd vector alternately: half of them.
+    template <int half>
+    static typename Pick::Codes interleaving() {
+        alignas(64) static constexpr auto codes = [] {
+            std::array<uint32_t, lanes> a{};
+            for (int i = 0; i < lanes; ++i) {
+                const int sample = half * lanes + i, pixel = sample / C;
+                a[i] = Pick::code(uint32_t(pixel % 2 * lanes + std::min(pixel / 2 * C + sample % C, lanes - 1)));
             }
-        };
-        for (int i = 0; i < ahead; ++i) copyNext();
-        ++summed;
-        sumAlong(sourceRow(summed), samples, sums_[summed & 1]);
-        if (tile_.streams && aligned) walk(std::true_type{});
-        else walk(std::false_type{});
-    }
-
-    // Byte i of what is multiplied for one half of the lanes of a vector, the `Vector`th of a period: a tap of a sample.
-    template <int Vector, int Half>
-    struct Tap {
-        static constexpr int sample(int i) { return Vector * kVectorBytes + i / 16 * 16 + Half * 8 + i % 16 / 2; }
-        // Where it lies in its lane of the source.
-        static constexpr int place(int i) {
-            const int pixel = sample(i) / C;
-            return ((pixel + 1) / 2 + i % 2) * C + sample(i) % C - sample(i) / 16 * 8;
-        }
-        static constexpr int weight(int i) { return (sample(i) / C + i) % 2 == 0 ? 1 : 3; }
-    };
-
-    // The sums, each with 2 more: what a pixel's sum of 12 bits is rounded with comes to 8.
-    template <int Vector, int Half>
-    static Words sumTaps(Bytes<> source) {
-        using T = Tap<Vector, Half>;
-        const auto taps = shuffle(source, constant<Bytes<>>([](int i) { return T::place(i); }));
-        return (Words)multiplyPairsOfBytes(taps, constant<Bytes<>>([](int i) { return T::weight(i); })) + 2;
-    }
-
-    // The source's bytes for vector `at` of destination samples, lane by lane.
-    static Bytes<> lanesAt(const uint8_t* row, int at) {
-        const Bytes<> source = load<Bytes<>>(row + at / 2);
-        if constexpr (lanes == 1) return source;
-        else return permute4(source, [](int i) { return i / 4 * 2 + i % 4; });
-    }
-
-    // Calls step(vector of samples, their sums) for whole periods.
-    template <class Step>
-    KVRI_INLINE static void eachSum(const uint8_t* row, int samples, Step step) {
-        for (int i = 0; i < samples; i += period * kVectorBytes)
-            unroll<period>([&](auto vector) KVRI_INLINE {
-                const int at = i + vector * kVectorBytes;
-                const Bytes<> source = lanesAt(row, at);
-                step(at, sumTaps<vector, 0>(source), sumTaps<vector, 1>(source));
-            });
-    }
-
-    static void sumAlong(const uint8_t* row, int samples, uint16_t* sums) {
-        eachSum(row, samples, [&](int at, Words first, Words second) KVRI_INLINE {
-            store(sums + at, first);
-            store(sums + at + kVectorBytes / 2, second);
-        });
-    }
-
-    // What is 3, but not to the compiler: shifts in place of products would be too many.
-    static Words three() { return loadedOnce(splat<Words>(3)); }
-    static Vec<int16_t> weighted(Words near, Words far, Words three) { return (Vec<int16_t>)((near * three + far) >> 4); }
-
-    static void combine(const uint16_t* near, const uint16_t* far, int samples, uint8_t* dst) {
-        const Words three = LinearDoubler::three();
-        for (int i = 0; i < samples; i += kVectorBytes) {
-            const auto half = [&](int at) KVRI_INLINE { return weighted(load<Words>(near + at), load<Words>(far + at), three); };
-            store(dst + i, narrow<uint8_t>(half(i), half(i + kVectorBytes / 2)));
-        }
-    }
-
-    // Both rows between `above` and the sums of a row, which are kept at `below`.
-    template <bool Streamed>
-    static void sumAndCombine(const uint8_t* row, const uint16_t* above, uint16_t* below, int samples, uint8_t* upper, uint8_t* lower) {
-        const Words three = LinearDoubler::three();
-        eachSum(row, samples, [&](int at, Words first, Words second) KVRI_INLINE {
-            store(below + at, first);
-            store(below + at + kVectorBytes / 2, second);
-            const Words a = loadedOnce(load<Words>(above + at)), b = loadedOnce(load<Words>(above + at + kVectorBytes / 2));
-            put<Streamed>(upper + at, narrow<uint8_t>(weighted(a, first, three), weighted(b, second, three)), samples - at);
-            put<Streamed>(lower + at, narrow<uint8_t>(weighted(first, a, three), weighted(second, b, three)), samples - at);
-        });
-    }
-
-    template <bool Streamed>
-    static void put(uint8_t* dst, Bytes<> v, int samples) {
-        if (samples < kVectorBytes) storePart(dst, v, samples);
-        else if constexpr (Streamed) stream(dst, v);
-        else store(dst, v);
+            return a;
+        }();
+        return load<typename Pick::Codes>(codes.data());
     }
 };
 

@@ -1,6 +1,7 @@
 // geometry/resize_init.cpp: fills Resize's specification objects: taps and weights of every destination position.
 #include <algorithm>
 #include <array>
+#include <bit>
 #include <cmath>
 #include <numeric>
 
@@ -119,6 +120,42 @@ void dropZeroTaps(TableWriter& tables, ResizeAxis& a) {
     for (int i = 0; i < a.period; ++i) tables.first(a, i) += leading;
 }
 
+// The fewest bits behind the point that all weights have, or -1 where there are more than 7 or a weight is above 1.
+int bitsOfWeights(const ResizeSpec& spec, const ResizeAxis& a) {
+    constexpr int most = 7;
+    int all = 0;
+    for (int i = 0; i < a.period; ++i)
+        for (int t = 0; t < a.taps; ++t) {
+            const float scaled = spec.weight<float>(a, i, t) * (1 << most);
+            if (!(std::abs(scaled) <= 1 << most) || scaled != std::floor(scaled)) return -1;
+            all |= int(scaled);
+        }
+    return most - std::min(std::countr_zero(unsigned(all)), most);
+}
+
+// Whether weights are whole numbers of 2^-n such that products of 8u with two neighbours have 16 bits, and so have sums less
+// 128 times the weights' sum, which is 1.
+void measureWeights(const ResizeSpec& spec, ResizeAxis& a) {
+    const int bits = a.taps <= kWholeTaps ? bitsOfWeights(spec, a) : -1;
+    a.wholeBits = -1;
+    if (bits < 0) return;
+    int most = 0;
+    for (int i = 0; i < a.period; ++i) {
+        int sum = 0, magnitude = 0, positive = 0, negative = 0;
+        for (int t = 0; t < a.taps; ++t) {
+            const int w = int(spec.weight<float>(a, i, t) * float(1 << bits));
+            if (t % 2 == 0) positive = negative = 0;
+            (w > 0 ? positive : negative) += std::abs(w);
+            if (w > 127 || std::max(positive, negative) > 128) return;
+            sum += w, magnitude += std::abs(w);
+        }
+        if (sum != 1 << bits || magnitude > 255) return;
+        most = std::max(most, magnitude);
+    }
+    a.wholeBits = bits;
+    a.magnitude = most;
+}
+
 constexpr int kKeptTaps = 64;
 
 template <class F, class Kernel>
@@ -128,7 +165,8 @@ void writeAxis(TableWriter& tables, ResizeAxis& a, const Kernel& kernel, bool st
     tables.place(a, a.destination, taps, sizeof(F), order);
     for (int i = 0; i < a.destination; ++i) {
         const double x = a.coordinate(i), index = std::floor(x);
-        const int first = stretch ? int(std::floor(x - reach)) + 1 : int(index) + 1 - Kernel::reach;
+        // Where fewer pixels lie within the reach than at other positions, the tap without weight is on the left.
+        const int first = stretch ? std::min(int(std::floor(x - reach)) + 1, int(std::ceil(x + reach)) - taps) : int(index) + 1 - Kernel::reach;
         auto value = [&](int tap) {
             return kernel(std::abs(stretch ? (first + tap - x) / scale : first + tap - index - (x - index)));
         };
@@ -230,6 +268,7 @@ KvrStatus initSmooth(KvriSize src, KvriSize dst, KvriInterpolationType method, c
     TableWriter tables(spec);
     writeAxis<F>(tables, spec.x, kernel, antialiasing && spec.x.shrinks(), Order::TapByTap);
     writeAxis<F>(tables, spec.y, kernel, antialiasing && spec.y.shrinks(), Order::PositionByPosition);
+    if constexpr (std::is_same_v<F, float>) measureWeights(spec, spec.x), measureWeights(spec, spec.y);
     spec.rowsFirst = rowsComeFirst(spec);
     return kvrStatusOk;
 }
@@ -286,6 +325,7 @@ KvrStatus superInit(KvriSize src, KvriSize dst, KvriResizeSpec* pSpec) {
     TableWriter tables(spec);
     writeSuperAxis(tables, spec.x, Order::TapByTap);
     writeSuperAxis(tables, spec.y, Order::PositionByPosition);
+    measureWeights(spec, spec.x), measureWeights(spec, spec.y);
     spec.rowsFirst = rowsComeFirst(spec);
     return kvrStatusOk;
 }

@@ -12,7 +12,7 @@
 #include "core/lanes.h"
 #include "core/layout.h"
 #include "geometry/resize_apply.h"
-#include "geometry/resize_double.h"
+#include "geometry/resize_double8u.h"
 #include "geometry/resize_halve.h"
 
 namespace kvri {
@@ -300,7 +300,7 @@ template <int C, bool Eighths>
 
 template <int C>
 [[gnu::noinline]] void resizeOther(const ResizeTile& tile) {
-    if (doubles(tile.spec)) doubleSize<C>(tile);
+    if (doubles8u(tile.spec)) doubleSize<C>(tile);
     else if (!resizeStrips<C, true>(tile)) resizeStrips<C, false>(tile);
 }
 

@@ -59,8 +59,11 @@ inline Vec<int32_t> toIntegers(Vec<float> v) {
     return toNearest(least(v, splat<Vec<float>>(1e9f)));
 }
 
-template <class T>
-inline Packed<T> fromReals(Reals<T> v) {
+inline Vec<int32_t> toIntegers(Vec<int32_t> v) { return v; }
+
+// Of reals, or of integers that are to be saturated.
+template <class T, class V>
+inline Packed<T> fromReals(V v) {
     if constexpr (sizeof(T) >= 4) return (Packed<T>)v;
 #if defined(__AVX512BW__)
     else if constexpr (std::is_signed_v<T>) return (Packed<T>)_mm512_cvtsepi32_epi16((__m512i)toIntegers(v));
@@ -91,34 +94,38 @@ inline Packed<T> fromReals(Reals<T> v) {
 #endif
 }
 
-template <class T>
-inline void storeReals(uint8_t* p, Reals<T> v) {
+template <class T, class V>
+inline void storeReals(uint8_t* p, V v) {
     const Packed<T> samples = fromReals<T>(v);
     if constexpr (kPackedBytes<T> >= 16) store(p, samples);
     else std::memcpy(p, &samples, kPackedBytes<T>);
 }
 
-template <class T>
-inline void storeRealsPart(uint8_t* p, Reals<T> v, ptrdiff_t samples) {
+template <class T, class V>
+inline void storeRealsPart(uint8_t* p, V v, ptrdiff_t samples) {
     storePart(p, fromReals<T>(v), samples * ptrdiff_t(sizeof(T)));
 }
 
 constexpr int kLanes = kVectorBytes / 16;
 
+// Two vectors as one of 16-bit numbers.
+template <class T, class V>
+inline Bytes<> packedWords(V a, V b) {
+    const auto words = (Bytes<>)narrow<T>(toIntegers(a), toIntegers(b));
+    if constexpr (kLanes == 1) return words;
+    else return permute4(words, [](int i) { return (i / 2 % kLanes * 2 + i / 2 / kLanes) * 2 + i % 2; });
+}
+
 // Four vectors at once: packing works lane by lane, and one permutation puts all of it in order. put(place, vector) stores.
-template <class T, class Put>
-inline void putFourReals(uint8_t* p, const Reals<T> (&v)[4], Put put) {
+template <class T, class V, class Put>
+inline void putFourReals(uint8_t* p, const V (&v)[4], Put put) {
     if constexpr (sizeof(T) == 1) {
         const auto low = narrow<int16_t>(toIntegers(v[0]), toIntegers(v[1])), high = narrow<int16_t>(toIntegers(v[2]), toIntegers(v[3]));
         const auto bytes = narrow<uint8_t>(low, high);
         if constexpr (kLanes == 1) put(p, bytes);
         else put(p, permute4(bytes, [](int i) { return i % kLanes * 4 + i / kLanes; }));
     } else if constexpr (sizeof(T) == 2) {
-        unroll<2>([&](auto half) KVRI_INLINE {
-            const auto words = (Bytes<>)narrow<T>(toIntegers(v[2 * half]), toIntegers(v[2 * half + 1]));
-            if constexpr (kLanes == 1) put(p + half * kVectorBytes, words);
-            else put(p + half * kVectorBytes, permute4(words, [](int i) { return (i / 2 % kLanes * 2 + i / 2 / kLanes) * 2 + i % 2; }));
-        });
+        unroll<2>([&](auto half) KVRI_INLINE { put(p + half * kVectorBytes, packedWords<T>(v[2 * half], v[2 * half + 1])); });
     } else {
         unroll<4>([&](auto i) KVRI_INLINE { put(p + i * kVectorBytes, (Bytes<>)v[i]); });
     }
@@ -132,9 +139,12 @@ struct RowOf {
     explicit RowOf(void* p) : p(static_cast<uint8_t*>(p)) {}
     // Samples that are to be written before groups of four vectors.
     static ptrdiff_t head() { return 0; }
-    void four(ptrdiff_t i, const Reals<T> (&v)[4]) const { putFourReals<T>(at(i), v, [](uint8_t* p, auto v) KVRI_INLINE { store(p, v); }); }
-    void one(ptrdiff_t i, Reals<T> v) const { storeReals<T>(at(i), v); }
-    void part(ptrdiff_t i, Reals<T> v, ptrdiff_t samples) const { storeRealsPart<T>(at(i), v, samples); }
+    template <class V>
+    void four(ptrdiff_t i, const V (&v)[4]) const { putFourReals<T>(at(i), v, [](uint8_t* p, auto v) KVRI_INLINE { store(p, v); }); }
+    template <class V>
+    void one(ptrdiff_t i, V v) const { storeReals<T>(at(i), v); }
+    template <class V>
+    void part(ptrdiff_t i, V v, ptrdiff_t samples) const { storeRealsPart<T>(at(i), v, samples); }
 
 protected:
     uint8_t* at(ptrdiff_t i) const { return p + i * ptrdiff_t(sizeof(T)); }

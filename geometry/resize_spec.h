@@ -28,6 +28,8 @@ struct ResizeAxis {
     int32_t period;                     // positions after which weights repeat, and first taps move on by reducedSource
     int32_t index, weights;             // offsets of the tables in bytes
     int32_t positionStride, tapStride;  // of weights, in weights
+    int32_t wholeBits;  // weights are whole numbers of 2^-wholeBits; -1: not, or too large ones for bytes
+    int32_t magnitude;  // the largest sum of their magnitudes in these units
 
     double ratio() const { return double(reducedSource) / reducedDestination; }
     // The source coordinate of destination position i; pixel centres are whole numbers.
@@ -44,6 +46,9 @@ struct ResizeSpec {
     KvriBorderSize border;  // what GetBorderSize tells
     ResizeAxis x, y;
 
+    // Whether sums of 8u, in any order, are exact in single precision and in 16-bit numbers between the passes.
+    bool whole() const { return x.wholeBits >= 0 && y.wholeBits >= 0 && 255 * x.magnitude * y.magnitude <= 1 << 24; }
+
     template <class T>
     const T* table(int32_t offset) const { return reinterpret_cast<const T*>(reinterpret_cast<const char*>(this) + offset); }
     template <class T>
@@ -51,11 +56,16 @@ struct ResizeSpec {
 
     int firstTap(const ResizeAxis& a, int i) const {
         const auto* first = table<int32_t>(a.index);
-        return a.period == a.destination ? first[i] : i / a.period * a.reducedSource + first[i % a.period];
+        return i < a.period ? first[i] : i / a.period * a.reducedSource + first[i % a.period];
+    }
+    // The weights of position i, a.tapStride apart.
+    template <class F>
+    const F* weightsOf(const ResizeAxis& a, int i) const {
+        return table<F>(a.weights) + ptrdiff_t(i < a.period ? i : i % a.period) * a.positionStride;
     }
     template <class F>
     F weight(const ResizeAxis& a, int i, int tap) const {
-        return table<F>(a.weights)[ptrdiff_t(i % a.period) * a.positionStride + ptrdiff_t(tap) * a.tapStride];
+        return weightsOf<F>(a, i)[ptrdiff_t(tap) * a.tapStride];
     }
 
     // The source position where a tile that begins at i has its pointer.
@@ -63,6 +73,8 @@ struct ResizeSpec {
         return method == kvrInterpSuper ? firstTap(a, i) : int(i * a.ratio());
     }
 };
+
+constexpr int kWholeTaps = 8;
 
 // Source rows that are combined at a time; where a pixel has more, rows come first.
 constexpr int kResizeRowGroup = 64;
