@@ -83,7 +83,8 @@ struct ResizeTile : ResizeCall {
 };
 
 // The body of an apply function: checks, then run(call), or run(tile).
-template <int C, class T, class Run>
+// A destination is streamed where `Held` times its bytes exceed the cache.
+template <int C, int Held = 4, class T, class Run>
 KvrStatus applyResize(const Accepts& accepts, Run run, const T* pSrc, int srcStep, T* pDst, int dstStep, KvriPoint dstOffset,
                       KvriSize dstSize, KvriBorderType border, const KvriResizeSpec* pSpec, Kvr8u* pBuffer) {
     if (KvrStatus e = firstError(nonNull(pSrc, pDst, pSpec, pBuffer), lengthsNotZero(dstSize))) return e;
@@ -92,7 +93,7 @@ KvrStatus applyResize(const Accepts& accepts, Run run, const T* pSrc, int srcSte
     if (KvrStatus e = carriesId(pSpec, accepts.id)) return e;
     if (KvrStatus e = firstError(hasPixels(dstSize), insideDestination(spec, dstOffset), accepts(spec), borderSupported(border))) return e;
     const KvriSize size = clipped(spec, dstOffset, dstSize);
-    const bool streams = exceedsCache(size, 4 * pixelBytes);
+    const bool streams = exceedsCache(size, Held * pixelBytes);
     run(ResizeCall{spec, reinterpret_cast<const uint8_t*>(pSrc), srcStep, reinterpret_cast<uint8_t*>(pDst), dstStep, dstOffset, size, border,
                    pBuffer, streams});
     if (streams) fenceStreams();

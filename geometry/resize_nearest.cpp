@@ -238,8 +238,9 @@ template <class T, class L>
 KvrStatus nearest(const T* pSrc, int srcStep, T* pDst, int dstStep, KvriPoint dstOffset, KvriSize dstSize, KvriBorderType border,
                   const T*, const KvriResizeSpec* pSpec, Kvr8u* pBuffer) {
     constexpr Accepts accepts{kResizeSpecId, kvrInterpNearest, false, ResizeWeights::None};
-    return applyResize<L::channels>(accepts, resizeNearest<L::channels * sizeof(T)>, pSrc, srcStep, pDst, dstStep, dstOffset, dstSize, border, pSpec,
-                       pBuffer);
+    // Rows that are only moved gain by streaming when they fill the cache themselves.
+    return applyResize<L::channels, 1>(accepts, resizeNearest<L::channels * sizeof(T)>, pSrc, srcStep, pDst, dstStep, dstOffset, dstSize, border,
+                                       pSpec, pBuffer);
 }
 
 KVRI_EXPORT(kvriResizeNearest_8u_C1R, nearest<Kvr8u, C1>);
