@@ -111,7 +111,7 @@ private:
 // Calls fill(source row from `column` on, destination row from x on) for every destination row. Writing two that are alike at
 // a time would be slower: rows may lie a power of two apart.
 template <int B, class Fill>
-KVRI_INLINE void eachRowOf(const ResizeTile& tile, int x, int column, Fill fill) {
+KVRI_INLINE inline void eachRowOf(const ResizeTile& tile, int x, int column, Fill fill) {
     const int32_t* index = tile.spec.table<int32_t>(tile.spec.y.index) + tile.offset.y;
     uint8_t* dst = tile.destination(0, x, B);
     for (int y = 0;; dst += tile.dstStep) {
