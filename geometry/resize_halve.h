@@ -102,8 +102,8 @@ public:
         } else if constexpr (C == 3) {  // the second of each two lanes is loaded from 4 bytes before, to stay inside
             const auto v = (Bytes<W>)narrow<uint8_t>(means<W, 24, 0>(p, q), means<W, 24, 4>(p + 8, q + 8));
             const auto packed = shuffle(v, constant<Bytes<W>>([](int i) { return i % 16 < 6 ? i % 16 : i % 16 < 12 ? i % 16 + 2 : 128; }));
-            if constexpr (lanes == 1) PixelPairs<W, 3>::put(dst, packed);
-            else PixelPairs<W, 3>::put(dst, permute4(packed, [](int i) { return i < 3 * (W / 16) ? i / 3 * 4 + i % 3 : 3; }));
+            if constexpr (lanes == 1) storePart(dst, packed, 12);
+            else storePart(dst, permute4(packed, [](int i) { return i < 3 * (W / 16) ? i / 3 * 4 + i % 3 : 3; }), bytes<W>);
         } else {
             const auto v = (Bytes<W>)narrow<uint8_t>(means<W, 16, 0>(p, q), means<W, 16, 0>(p + W, q + W));
             if constexpr (lanes == 1) store(dst, v);
