@@ -25,7 +25,7 @@ $rows << EOD
 EOD
 set title "Time as a multiple of the streaming limit (1 = nothing faster moves the same bytes)"
 set logscale x 2
-set xrange [0.5:16]
+set xrange [0.5:*]
 set yrange [-1:{len(rows)}]
 set grid x
 set key top right

@@ -27,6 +27,7 @@ class Strip {
     const F* weights_;             // these, or the object's
     int taps_, stride_;            // stride: weights from tap to tap
     int perLoad_;                  // taps that are picked from the vectors at one place
+    bool alike_;                   // all pixels have the same weights
     Way way_;
 
 public:
@@ -96,19 +97,28 @@ public:
     // The same of a group's columns side by side.
     template <int C, class T>
     void apply(const F* columns, const RowsOf<T>& out) const {
+        if (alike_) applyColumns<C, T, true>(columns, out);
+        else applyColumns<C, T, false>(columns, out);
+    }
+
+private:
+    template <int C, class T, bool alike>
+    void applyColumns(const F* columns, const RowsOf<T>& out) const {
         const LanePixels<T, C> sums(out.p.data(), out.count, pixels);
         for (int i = 0; i < pixels; i += 4) {
             V acc[4];
             unroll<4>([&](auto k) KVRI_INLINE { acc[k] = splat<V>(-0.0f); });
             for (int t = 0; t < taps_; ++t) {
                 const F* w = weights_ + ptrdiff_t(t) * stride_ + i;
-                unroll<4>([&](auto k) KVRI_INLINE { acc[k] = acc[k] + load<V>(columns + ptrdiff_t(base_[i + k] + t) * lanes) * splat<V>(w[k]); });
+                const V first = splat<V>(w[0]);
+                unroll<4>([&](auto k) KVRI_INLINE {
+                    acc[k] = acc[k] + load<V>(columns + ptrdiff_t(base_[i + k] + t) * lanes) * (alike ? first : splat<V>(w[k]));
+                });
             }
             sums.put(i, acc);
         }
     }
 
-private:
     static V pickOne(const void* p, typename Pick::Codes codes) {
         const V v = load<V>(p);
         return Pick::template pick<1>(v, v, codes);
@@ -144,6 +154,7 @@ private:
         taps_ = x.taps;
         pixels = count;
         sparse = x.ratio() > taps_;
+        alike_ = x.reducedDestination == 1;
         first = spec.firstTap(x, position);
         last = spec.firstTap(x, position + count - 1) + taps_ - 1;
         if (sparse) {
