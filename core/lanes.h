@@ -72,6 +72,12 @@ inline V multiplyHigh(V a, V b) {
     else if constexpr (kHolds<V, int16_t>) { KVRI_BY_WIDTH(V, mulhi_epi16, raw(a), raw(b)); }
 }
 
+// (a * b + 2^14) >> 15 of 16s.
+template <class V>
+inline V multiplyHighRounded(V a, V b) {
+    KVRI_BY_WIDTH(V, mulhrs_epi16, raw(a), raw(b));
+}
+
 // Sums of the two 32-bit products of neighbouring 16s; a sum of 2^31 appears as -2^31.
 template <class V>
 inline Vec<int32_t, sizeof(V)> multiplyPairs(V a, V b) {

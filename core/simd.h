@@ -374,6 +374,16 @@ inline V permute2(V v, F) {
 }
 #endif
 
+#if defined(__AVX512BW__)
+// Groups of `Size` bytes, 2 or 4, from anywhere in two vectors: group i becomes group f(i) of a and, behind it, b.
+template <int Size, class V, class F>
+inline V permuteBoth(V a, V b, F) {
+    const V from = constant<V>([](int i) { return i % Size == 0 ? F{}(i / Size) : 0; });
+    if constexpr (Size == 4) { KVRI_BY_WIDTH(V, permutex2var_epi32, raw(a), raw(from), raw(b)); }
+    else { KVRI_BY_WIDTH(V, permutex2var_epi16, raw(a), raw(from), raw(b)); }
+}
+#endif
+
 // Elements of `Size` bytes of a and b alternately, from the low half of each lane, or the high half.
 template <int Size, class V>
 inline V zipLow(V first, V second) {

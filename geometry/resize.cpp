@@ -237,19 +237,25 @@ private:
     }
 };
 
+// A function of its own, so that halving needs no large frame.
+template <class T, int C, KvriInterpolationType Method>
+[[gnu::noinline]] void resizeByWeights(const ResizeTile& tile) {
+    const DefaultFloatControl control;
+    if constexpr (!std::is_same_v<T, Kvr64f> && sizeof(T) > 1 && Method == kvrInterpLinear)
+        if (doubles(tile)) return Doubler<T, C>(tile).run();
+    Resizer<T, C>(tile).run();
+}
+
 template <class T, class L, KvriInterpolationType Method, bool Antialiasing = false>
 KvrStatus resize(const T* pSrc, int srcStep, T* pDst, int dstStep, KvriPoint dstOffset, KvriSize dstSize, KvriBorderType border,
                  const T*, const KvriResizeSpec* pSpec, Kvr8u* pBuffer) {
     constexpr bool isDouble = std::is_same_v<T, Kvr64f>;
     constexpr Accepts accepts{isDouble ? kResizeSpecId64f : kResizeSpecId, Method, Antialiasing,
                               isDouble ? ResizeWeights::Double : ResizeWeights::Float};
-    const auto run = [](const ResizeTile& tile) {
-        if constexpr (std::is_integral_v<T> && (Method == kvrInterpLinear || Method == kvrInterpSuper))
-            if (halves(tile.spec)) return Halver<T, L::channels, Ties::Even>::run(tile);
-        const DefaultFloatControl control;
-        if constexpr (!isDouble && sizeof(T) > 1 && Method == kvrInterpLinear)
-            if (doubles(tile)) return Doubler<T, L::channels>(tile).run();
-        Resizer<T, L::channels>(tile).run();
+    const auto run = [](const ResizeCall& call) KVRI_INLINE {
+        if constexpr (!isDouble && (Method == kvrInterpLinear || Method == kvrInterpSuper))
+            if (halves(call.spec)) return Halver<T, L::channels, Ties::Even>::run(call);
+        resizeByWeights<T, L::channels, Method>(call);
     };
     return applyResize<L::channels>(accepts, run, pSrc, srcStep, pDst, dstStep, dstOffset, dstSize, border, pSpec, pBuffer);
 }

@@ -46,22 +46,19 @@ inline void prefetch(const uint8_t* p, ptrdiff_t bytes) {
     for (ptrdiff_t i = 0; i < bytes; i += 64) __builtin_prefetch(p + i);
 }
 
-struct ResizeTile {
+// A checked call, its tile clipped.
+struct ResizeCall {
     const ResizeSpec& spec;
-    const uint8_t* src;  // where source pixel `origin` lies
+    const uint8_t* src;  // where source pixel `origin` of the tile lies
     ptrdiff_t srcStep;
     uint8_t* dst;
     ptrdiff_t dstStep;
-    KvriPoint offset, origin;
+    KvriPoint offset;
     KvriSize size;
-    Readable columns, rows;
+    KvriBorderType border;
     uint8_t* buffer;
     bool streams;  // the destination is written past the caches
 
-    // Source row `row`, or what stands for it, from column `column` on.
-    const uint8_t* source(int row, int column, ptrdiff_t pixelBytes) const {
-        return src + (rows(row) - origin.y) * srcStep + (ptrdiff_t(column) - origin.x) * pixelBytes;
-    }
     uint8_t* destination(int y, int x, ptrdiff_t pixelBytes) const { return dst + y * dstStep + x * pixelBytes; }
     // For pixels x to x + n - 1 to be written some rows later.
     void prefetchDestination(int y, int x, int n, ptrdiff_t pixelBytes) const {
@@ -69,8 +66,25 @@ struct ResizeTile {
     }
 };
 
-// The body of an apply function: checks, then run(tile).
-template <int C, class T, class Run>
+// And what of its source may be read. Ways of resizing that need not know take the call.
+struct ResizeTile : ResizeCall {
+    KvriPoint origin;
+    Readable columns, rows;
+
+    ResizeTile(const ResizeCall& call)
+        : ResizeCall(call), origin{spec.origin(spec.x, offset.x), spec.origin(spec.y, offset.y)},
+          columns(spec.x, border, kvrBorderInMemLeft, kvrBorderInMemRight, spec.border.left),
+          rows(spec.y, border, kvrBorderInMemTop, kvrBorderInMemBottom, spec.border.top) {}
+
+    // Source row `row`, or what stands for it, from column `column` on.
+    const uint8_t* source(int row, int column, ptrdiff_t pixelBytes) const {
+        return src + (rows(row) - origin.y) * srcStep + (ptrdiff_t(column) - origin.x) * pixelBytes;
+    }
+};
+
+// The body of an apply function: checks, then run(call), or run(tile).
+// A destination is streamed where `Held` times its bytes exceed the cache.
+template <int C, int Held = 4, class T, class Run>
 KvrStatus applyResize(const Accepts& accepts, Run run, const T* pSrc, int srcStep, T* pDst, int dstStep, KvriPoint dstOffset,
                       KvriSize dstSize, KvriBorderType border, const KvriResizeSpec* pSpec, Kvr8u* pBuffer) {
     if (KvrStatus e = firstError(nonNull(pSrc, pDst, pSpec, pBuffer), lengthsNotZero(dstSize))) return e;
@@ -79,19 +93,9 @@ KvrStatus applyResize(const Accepts& accepts, Run run, const T* pSrc, int srcSte
     if (KvrStatus e = carriesId(pSpec, accepts.id)) return e;
     if (KvrStatus e = firstError(hasPixels(dstSize), insideDestination(spec, dstOffset), accepts(spec), borderSupported(border))) return e;
     const KvriSize size = clipped(spec, dstOffset, dstSize);
-    const bool streams = exceedsCache(size, 4 * pixelBytes);
-    run(ResizeTile{spec,
-                   reinterpret_cast<const uint8_t*>(pSrc),
-                   srcStep,
-                   reinterpret_cast<uint8_t*>(pDst),
-                   dstStep,
-                   dstOffset,
-                   {spec.origin(spec.x, dstOffset.x), spec.origin(spec.y, dstOffset.y)},
-                   size,
-                   Readable(spec.x, border, kvrBorderInMemLeft, kvrBorderInMemRight, spec.border.left),
-                   Readable(spec.y, border, kvrBorderInMemTop, kvrBorderInMemBottom, spec.border.top),
-                   pBuffer,
-                   streams});
+    const bool streams = exceedsCache(size, Held * pixelBytes);
+    run(ResizeCall{spec, reinterpret_cast<const uint8_t*>(pSrc), srcStep, reinterpret_cast<uint8_t*>(pDst), dstStep, dstOffset, size, border,
+                   pBuffer, streams});
     if (streams) fenceStreams();
     return withinDestination(spec, dstSize);
 }

@@ -1,16 +1,18 @@
-// geometry/resize_nearest.cpp: Nearest. Pixels are moved as bytes: a lane of 16 destination bytes is shuffled together from
-// 16 or 32 source bytes where its pixels lie that close, and copied pixel by pixel where not.
+// geometry/resize_nearest.cpp: Nearest. Pixels are moved as bytes: half and double rows by whole vectors; else a lane of 16
+// destination bytes is shuffled together from 16 or 32 source bytes where its pixels lie that close, and copied pixel by pixel
+// where not.
 #include <cstring>
 
 #include "core/dispatch.h"
+#include "core/lanes.h"
 #include "core/layout.h"
-#include "core/simd.h"
 #include "geometry/resize_apply.h"
+#include "geometry/resize_pairs.h"
 
 namespace kvri {
 namespace {
 
-constexpr int kStripLanes = 512, kLane = 16;
+constexpr int kStripLanes = 2048, kLane = 16;
 
 // B: bytes of a pixel. The last lane ends with the row, over what the one before it has of the row; no lane is read from
 // beyond the strip's last source pixel.
@@ -18,7 +20,7 @@ template <int B>
 class NearestStrip {
     using Lane = Bytes<kLane>;
 
-    alignas(64) uint8_t place_[kStripLanes * kLane];  // of each destination byte, from the lane's base on
+    alignas(64) Lane place_[kStripLanes];  // of each destination byte, from the lane's base on
     int32_t base_[kStripLanes];
     int lanes_, reach_;  // bytes that a lane's shuffle may reach; 0: pixels are copied
 
@@ -33,76 +35,212 @@ public:
         reach_ = 0;
         lanes_ = (count * B + kLane - 1) / kLane;
         if (count * B < kLane) return;
-        int widest = 0;
-        for (int i = 0; i < lanes_; ++i) widest = std::max(widest, lowest(start(i) + kLane - 1, false) - lowest(start(i), true));
-        const int reach = widest < kLane ? kLane : widest < 2 * kLane ? 2 * kLane : 0;
+        Lane widest{};
+        for (int i = 0; i < lanes_; ++i) {
+            const int byte = start(i), pixel = byte / B, phase = byte % B;
+            const Lane place = offsets(index + pixel, phase);
+            // The second pixel may begin before the first byte.
+            const int low = phase == 0 ? 0 : std::min(phase, (index[pixel + 1] - index[pixel]) * B);
+            base_[i] = (index[pixel] - index[0]) * B + low;
+            place_[i] = place - uint8_t(low);
+            widest |= place_[i];
+        }
+        const int reach = allZero(widest & uint8_t(-kLane)) ? kLane : allZero(widest & uint8_t(-2 * kLane)) ? 2 * kLane : 0;
         const int behind = (index[count - 1] - index[0] + 1) * B - reach;
         if (reach == 0 || behind < 0) return;
         reach_ = reach;
-        for (int i = 0; i < lanes_; ++i) {
-            base_[i] = std::min(lowest(start(i), true), behind);
-            int pixel = start(i) / B, byte = start(i) % B;
-            for (int k = 0; k < kLane; ++k) {
-                place_[i * kLane + k] = uint8_t((index[pixel] - index[0]) * B + byte - base_[i]);
-                if (++byte == B) byte = 0, ++pixel;
-            }
+        for (int i = lanes_ - 1; i >= 0 && base_[i] > behind; --i) {
+            place_[i] += uint8_t(base_[i] - behind);
+            base_[i] = behind;
         }
     }
 
     // src: the pixel of the first source column.
-    template <bool Streamed>
     void apply(const uint8_t* src, uint8_t* dst) const {
-        if (reach_ == kLane) return shuffleLanes<1, Streamed>(src, dst);
-        if (reach_ != 0) return shuffleLanes<2, Streamed>(src, dst);
+        if (reach_ == kLane) return shuffleLanes<1>(src, dst);
+        if (reach_ != 0) return shuffleLanes<2>(src, dst);
         for (int i = 0, first = index[0]; i < pixels; ++i) std::memcpy(dst + i * B, src + ptrdiff_t(index[i] - first) * B, B);
     }
 
 private:
     int start(int lane) const { return std::min(lane * kLane, pixels * B - kLane); }
-    // The lowest or highest source byte of a lane that begins or ends with a destination byte.
-    int lowest(int byte, bool begins) const {
-        const int pixel = byte / B, here = (index[pixel] - index[0]) * B + byte % B;
-        if (begins) return pixel + 1 < pixels && byte % B != 0 ? std::min(here, (index[pixel + 1] - index[0]) * B) : here;
-        return pixel > 0 && byte % B != B - 1 ? std::max(here, (index[pixel - 1] - index[0]) * B + B - 1) : here;
+
+    // Byte k of a lane that begins `phase` bytes into a pixel: whose pixel's it is, and which of its bytes.
+    static constexpr auto table(auto entry) {
+        std::array<std::array<uint8_t, kLane>, B> t{};
+        for (int phase = 0; phase < B; ++phase)
+            for (int k = 0; k < kLane; ++k) t[phase][k] = uint8_t(entry(phase + k));
+        return t;
+    }
+    static constexpr auto kPixelOf = table([](int byte) { return byte / B; }), kByteOf = table([](int byte) { return byte % B; });
+
+    // Source bytes of a lane's destination bytes, from the first pixel's on; at most 255. What is read of `index` behind the
+    // row's end, three entries at most, is not used.
+    static Lane offsets(const int32_t* index, int phase) {
+        using Indices = Vec<uint32_t, kLane>;
+        constexpr int vectors = B == 1 ? 4 : B <= 3 ? 2 : 1;
+        const auto pixels = [&](int j) KVRI_INLINE {
+            const Indices v = load<Indices>(index + std::min(j, vectors - 1) * 4) - uint32_t(index[0]);
+            return (Vec<int32_t, kLane>)(v * uint32_t(B));
+        };
+        const auto begins = (Lane)narrow<uint8_t>(narrow<int16_t>(pixels(0), pixels(1)), narrow<int16_t>(pixels(2), pixels(3)));
+        return addSaturated(shuffle(begins, load<Lane>(kPixelOf[phase].data())), load<Lane>(kByteOf[phase].data()));
     }
 
-    template <int Loads, bool Streamed>
+    template <int Loads>
     void shuffleLanes(const uint8_t* src, uint8_t* dst) const {
-        for (int i = 0; i < lanes_; ++i) {
-            const uint8_t* p = src + base_[i];
-            const Lane place = load<Lane>(place_ + i * kLane);
-            Lane v;
-            if constexpr (Loads == 1) v = shuffle(load<Lane>(p), place);
-            else  // a control byte with its highest bit set gives 0
-                v = shuffle(load<Lane>(p), place + uint8_t(0x70)) | shuffle(load<Lane>(p + kLane), place - uint8_t(kLane));
-            if (Streamed && i < lanes_ - 1) stream(dst + i * kLane, v);
-            else store(dst + (i < lanes_ - 1 ? i * kLane : start(i)), v);
-        }
+        constexpr int perVector = kVectorBytes / kLane;
+        int lane = 0;
+        for (; lane + perVector < lanes_; lane += perVector) store(dst + lane * kLane, lanesFrom<Loads, kVectorBytes>(src, lane));
+        for (; lane < lanes_; ++lane) store(dst + start(lane), lanesFrom<Loads, kLane>(src, lane));
+    }
+
+    // W bytes of the destination, from lane `first` on.
+    template <int Loads, int W>
+    Bytes<W> lanesFrom(const uint8_t* src, int first) const {
+        const auto lanes = [&](int at) KVRI_INLINE {
+            return fromLanes<W>([&](int l) KVRI_INLINE { return load<Lane>(src + base_[first + l] + at); });
+        };
+        const auto place = load<Bytes<W>>(place_ + first);
+        if constexpr (Loads == 1) return shuffle(lanes(0), place);
+        else  // a control byte with its highest bit set gives 0
+            return shuffle(lanes(0), place + uint8_t(0x70)) | shuffle(lanes(kLane), place - uint8_t(kLane));
     }
 };
 
+// Calls fill(source row from `column` on, destination row from x on) for every destination row. Writing two that are alike at
+// a time would be slower: rows may lie a power of two apart.
+template <int B, class Fill>
+KVRI_INLINE inline void eachRowOf(const ResizeTile& tile, int x, int column, Fill fill) {
+    const int32_t* index = tile.spec.table<int32_t>(tile.spec.y.index) + tile.offset.y;
+    uint8_t* dst = tile.destination(0, x, B);
+    for (int y = 0;; dst += tile.dstStep) {
+        fill(tile.source(index[y], column, B), dst);
+        if (++y == tile.size.height) return;
+    }
+}
+
+template <bool Streamed, class V>
+void put(uint8_t* dst, V v) {
+    if constexpr (Streamed) stream(dst, v);
+    else store(dst, v);
+}
+
+// Calls run(whether vectors of W bytes at multiples of W from the begin of a row are to be streamed, as a constant).
+template <int W, class Run>
+void chooseStreaming(const ResizeTile& tile, Run run) {
+    const bool aligned = ((reinterpret_cast<uintptr_t>(tile.dst) | uintptr_t(tile.dstStep)) & (W - 1)) == 0;
+    if (tile.streams && aligned) run(std::true_type{});
+    else run(std::false_type{});
+}
+
+// Every second column.
+template <int B, int W>
+bool halveColumns(const ResizeTile& tile) {
+    using Pairs = PixelPairs<W, B>;
+    const ptrdiff_t n = ptrdiff_t(tile.size.width) * B, last = n - Pairs::bytes;
+    if (!Pairs::endsWithFirst || last < 0) return false;
+    chooseStreaming<W>(tile, [&](auto streamed) {
+        eachRowOf<B>(tile, 0, 2 * tile.offset.x, [=](const uint8_t* src, uint8_t* dst) KVRI_INLINE {
+            for (ptrdiff_t i = 0; i < last; i += Pairs::bytes) {
+                const uint8_t* p = src + 2 * i;
+                const auto v = Pairs::ordered(Pairs::template pick<Pairs::Firsts>(Pairs::firstLoad(p), Pairs::secondLoad(p)));
+                if constexpr (Pairs::bytes == W) put<streamed>(dst + i, v);
+                else Pairs::put(dst + i, v);
+            }
+            const uint8_t* p = src + 2 * last;
+            Pairs::put(dst + last, Pairs::ordered(Pairs::template pick<Pairs::FirstsEarlier>(Pairs::firstLoad(p), Pairs::earlierLoad(p))));
+        });
+    });
+    return true;
+}
+
+// Every column twice, but for a half pair at either end.
+template <int B, int W>
+bool doubleColumns(const ResizeTile& tile) {
+    using Twice = PixelsTwice<W, B>;
+    const int before = tile.offset.x % 2, pairs = (tile.size.width - before) / 2, behind = tile.size.width - before - 2 * pairs;
+    const ptrdiff_t n = ptrdiff_t(pairs) * 2 * B, begin = before * B;
+    if (n < Twice::bytes) return false;
+    const auto rows = [&](auto streamed) {
+        eachRowOf<B>(tile, 0, tile.offset.x / 2, [=](const uint8_t* src, uint8_t* dst) KVRI_INLINE {
+            if (before) std::memcpy(dst, src, B);
+            if (behind) std::memcpy(dst + begin + n, src + begin + n / 2, B);
+            src += begin, dst += begin;
+            ptrdiff_t i = 0;
+            for (; n - i >= Twice::bytes; i += Twice::bytes)
+                Twice::block(src + i / 2, [&](int at, auto v) KVRI_INLINE { put<streamed>(dst + i + at, v); });
+            if (i == n) return;
+            i = n - Twice::bytes;
+            Twice::block(src + i / 2, [&](int at, auto v) KVRI_INLINE { store(dst + i + at, v); });
+        });
+    };
+    if (before) rows(std::false_type{});
+    else chooseStreaming<W>(tile, rows);
+    return true;
+}
+
+// Whole vectors past the caches, wherever the row begins.
+void streamRow(uint8_t* dst, const uint8_t* from, ptrdiff_t n) {
+    const ptrdiff_t head = std::min<ptrdiff_t>(-reinterpret_cast<intptr_t>(dst) & (kVectorBytes - 1), n);
+    storePart(dst, load<Bytes<>>(from), head);
+    ptrdiff_t i = head;
+    for (; n - i >= kVectorBytes; i += kVectorBytes) stream(dst + i, load<Bytes<>>(from + i));
+    storePart(dst + i, load<Bytes<>>(from + i), n - i);
+}
+
 template <int B>
-void resizeNearest(const ResizeTile& tile) {
+void byStrips(const ResizeTile& tile) {
     NearestStrip<B> strip;
-    const int32_t* rows = tile.spec.table<int32_t>(tile.spec.y.index) + tile.offset.y;
     for (int x = 0; x < tile.size.width; x += strip.most) {
         strip.prepare(tile.spec, tile.offset.x + x, std::min(strip.most, tile.size.width - x));
-        for (int y = 0; y < tile.size.height; ++y) {
-            tile.prefetchDestination(y + 2, x, strip.pixels, B);
-            const uint8_t* src = tile.source(rows[y], strip.index[0], B);
-            uint8_t* dst = tile.destination(y, x, B);
-            if (tile.streams && reinterpret_cast<uintptr_t>(dst) % kLane == 0) strip.template apply<true>(src, dst);
-            else strip.template apply<false>(src, dst);
+        if (tile.streams) {
+            uint8_t row[kStripLanes * kLane + kVectorBytes];
+            eachRowOf<B>(tile, x, strip.index[0], [&](const uint8_t* src, uint8_t* dst) KVRI_INLINE {
+                strip.apply(src, row);
+                streamRow(dst, row, ptrdiff_t(strip.pixels) * B);
+            });
+        } else {
+            eachRowOf<B>(tile, x, strip.index[0], [&](const uint8_t* src, uint8_t* dst) KVRI_INLINE { strip.apply(src, dst); });
         }
     }
+}
+
+// Pixels of a whole lane.
+void byLanes(const ResizeTile& tile) {
+    const int32_t* index = tile.spec.table<int32_t>(tile.spec.x.index) + tile.offset.x;
+    const int width = tile.size.width, column = index[0];
+    chooseStreaming<kLane>(tile, [&](auto streamed) {
+        eachRowOf<kLane>(tile, 0, column, [=](const uint8_t* src, uint8_t* dst) KVRI_INLINE {
+            const auto pixel = [&](int i) KVRI_INLINE { return load<Bytes<kLane>>(src + ptrdiff_t(index[i] - column) * kLane); };
+            int i = 0;
+            constexpr int perVector = streamed ? 1 : kVectorBytes / kLane;
+            for (; i + perVector <= width; i += perVector)
+                put<streamed>(dst + ptrdiff_t(i) * kLane, fromLanes<perVector * kLane>([&](int l) KVRI_INLINE { return pixel(i + l); }));
+            for (; i < width; ++i) store(dst + ptrdiff_t(i) * kLane, pixel(i));
+        });
+    });
+}
+
+template <int B>
+void resizeNearest(const ResizeTile& tile) {
+    const ResizeAxis& x = tile.spec.x;
+    if (x.reducedSource == 2 && x.reducedDestination == 1) {
+        if (halveColumns<B, kVectorBytes>(tile) || halveColumns<B, kShuffleBytes>(tile) || halveColumns<B, 16>(tile)) return;
+    } else if (x.reducedSource == 1 && x.reducedDestination == 2) {
+        if (doubleColumns<B, kVectorBytes>(tile) || doubleColumns<B, kShuffleBytes>(tile) || doubleColumns<B, 16>(tile)) return;
+    }
+    if constexpr (B == kLane) byLanes(tile);
+    else byStrips<B>(tile);
 }
 
 template <class T, class L>
 KvrStatus nearest(const T* pSrc, int srcStep, T* pDst, int dstStep, KvriPoint dstOffset, KvriSize dstSize, KvriBorderType border,
                   const T*, const KvriResizeSpec* pSpec, Kvr8u* pBuffer) {
     constexpr Accepts accepts{kResizeSpecId, kvrInterpNearest, false, ResizeWeights::None};
-    return applyResize<L::channels>(accepts, resizeNearest<L::channels * sizeof(T)>, pSrc, srcStep, pDst, dstStep, dstOffset, dstSize, border, pSpec,
-                       pBuffer);
+    // Rows that are only moved gain by streaming when they fill the cache themselves.
+    return applyResize<L::channels, 1>(accepts, resizeNearest<L::channels * sizeof(T)>, pSrc, srcStep, pDst, dstStep, dstOffset, dstSize, border,
+                                       pSpec, pBuffer);
 }
 
 KVRI_EXPORT(kvriResizeNearest_8u_C1R, nearest<Kvr8u, C1>);

@@ -59,6 +59,39 @@ TEST(Resize, MatchesContract) {
         }
 }
 
+// Half and double size have ways of their own, by whole vectors. Single precision with numbers that overflow and vanish.
+TEST(Resize, FactorsOfTwo) {
+    constexpr KvriSize kFactors[] = {{-1, -1}, {1, 1}, {-1, 1}, {1, -1}};
+    for (const Case& c : cases()) {
+        if (c.method != kvrInterpNearest && c.method != kvrInterpLinear && c.method != kvrInterpSuper) continue;
+        Random random(17);
+        for (int width = 1; width <= 100; width += width < 72 ? 1 : 7)
+            for (const KvriSize f : kFactors) {
+                if (c.method == kvrInterpSuper && (f.width > 0 || f.height > 0)) continue;
+                const auto lengths = [](int n, int factor) { return factor > 0 ? std::pair{n + 1, 2 * n + 2} : std::pair{2 * n, n}; };
+                const auto x = lengths(width, f.width), y = lengths(random.in(1, 4), f.height);
+                const Scene s(c, {}, {x.first, y.first}, {x.second, y.second}, kBorders[random.in(0, 5)], random);
+                if (c.type == Type::f32)
+                    for (int i = 0; i < s.src.width * s.src.height / 4; ++i) {
+                        const double extremes[] = {3e38, -3e38, 1e-45, 3e-45, -1.2e-38, 5e-39, 0.3};
+                        contract::store(c.type, extremes[random.in(0, 6)], s.pixel(random.in(0, s.src.width - 1), random.in(0, s.src.height - 1)));
+                    }
+                const TestImage have(c.pixelBytes() * s.dst.width, s.dst.height, random), tile(have.rowBytes, have.rows, random);
+                const auto first = expected(s, have, true), second = expected(s, have, false);
+                ASSERT_EQ(s.run({0, 0}, s.dst, have, random), kvrStatusOk) << describe(s);
+                const auto memory = have.memory();
+                ASSERT_TRUE(memory == first || memory == second) << describe(s) << "\n" << firstDifference(s, have, first);
+
+                const KvriPoint at{random.in(0, s.dst.width - 1), random.in(0, s.dst.height - 1)};
+                const KvriSize size{random.in(1, s.dst.width - at.x), random.in(1, s.dst.height - at.y)};
+                ASSERT_EQ(s.run(at, size, tile, random), kvrStatusOk) << describe(s);
+                for (int row = at.y; row < at.y + size.height; ++row)
+                    ASSERT_EQ(std::memcmp(tile.row(row) + at.x * c.pixelBytes(), have.row(row) + at.x * c.pixelBytes(), size_t(size.width) * c.pixelBytes()), 0)
+                        << describe(s) << ", tile at " << at.x << ", " << at.y << ", " << size.width << "x" << size.height;
+            }
+    }
+}
+
 TEST(Resize, TilesGiveThePixelsOfTheWhole) {
     for (const Case& c : cases())
         for (int seed = 0; seed < 15; ++seed) {
@@ -85,7 +118,7 @@ TEST(Resize, TilesGiveThePixelsOfTheWhole) {
 TEST(Resize, ReadsTheRegionOfATileAndItsBorder) {
     for (const Case& c : cases()) {
         if (c.method == kvrInterpSuper) continue;
-        for (int seed = 0; seed < 15; ++seed) {
+        for (int seed = 0; seed < (c.method == kvrInterpNearest ? 120 : 15); ++seed) {
             Random random(uint64_t(seed) + 3000);
             Choice o = randomChoice(random);
             const auto w = randomLengths(c, o, random, 80), h = randomLengths(c, o, random, 40);
@@ -110,6 +143,27 @@ TEST(Resize, ReadsTheRegionOfATileAndItsBorder) {
             for (int y = 0; y < size.height; ++y)
                 ASSERT_EQ(std::memcmp(tile.row(y), whole.row(at.y + y) + at.x * c.pixelBytes(), size_t(tile.rowBytes)), 0) << describe(s) << ", seed " << seed;
         }
+    }
+}
+
+// A destination that exceeds the cache is streamed: rows of whole vectors and others, against tiles that are not.
+TEST(Resize, LargeGivesThePixelsOfTiles) {
+    for (const Case& c : cases()) {
+        if (c.antialiasing() || c.method == kvrInterpCubic || c.method == kvrInterpLanczos) continue;
+        constexpr KvriSize kRatios[] = {{2, 1}, {1, 2}, {10, 7}, {5, 7}};
+        for (const KvriSize& ratio : kRatios)
+            for (const int padding : {0, 21}) {
+                if (c.method == kvrInterpSuper && ratio.width < ratio.height) continue;
+                Random random(uint64_t(padding) + 3);
+                const KvriSize dst{640 + padding, 0x80000 / (640 * c.pixelBytes()) + 2};
+                const KvriSize src{std::max(2, dst.width * ratio.width / ratio.height), std::max(2, dst.height * ratio.width / ratio.height)};
+                const Scene s(c, {}, src, {dst.width, dst.height}, kvrBorderRepl, random);
+                const int rowBytes = c.pixelBytes() * dst.width;
+                const TestImage whole(rowBytes, dst.height, rowBytes + padding, Edge::Begin), tiled(rowBytes, dst.height, rowBytes + padding, Edge::Begin);
+                ASSERT_EQ(s.run({0, 0}, dst, whole, random), kvrStatusOk);
+                for (int y = 0; y < dst.height; y += 9) ASSERT_EQ(s.run({0, y}, {dst.width, 9}, tiled, random), kvrStatusOk);
+                for (int y = 0; y < dst.height; ++y) ASSERT_EQ(std::memcmp(whole.row(y), tiled.row(y), size_t(rowBytes)), 0) << describe(s);
+            }
     }
 }
 
