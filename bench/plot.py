@@ -23,7 +23,7 @@ set output "{plot}"
 $rows << EOD
 {chr(10).join(lines)}
 EOD
-set title "Time as a multiple of the streaming limit (1 = nothing faster moves the same bytes)"
+set title "Time, as a multiple of the fastest loop that moves the same bytes"
 set logscale x 2
 set xrange [0.5:*]
 set yrange [-1:{len(rows)}]
