@@ -287,6 +287,18 @@ inline Vec<T, sizeof(V)> narrow(V a, V b) {
 #endif
 }
 
+// Groups of 16 / K bytes in the order of K vectors that have been packed together lane by lane.
+template <int K, class V>
+inline V unpackedOrder(V v) {
+    constexpr int lanes = sizeof(V) / 16;
+    if constexpr (lanes == 1) return v;
+    else return permute4(v, [](int i) {
+        constexpr int perGroup = 4 / K;
+        const int group = i / perGroup, vector = group / lanes, lane = group % lanes;
+        return (lane * K + vector) * perGroup + i % perGroup;
+    });
+}
+
 // Halves of a vector, and a vector of two halves.
 template <class V>
 using Half = Vec<ElementOf<V>, sizeof(V) / 2>;

@@ -27,6 +27,8 @@ constexpr int kVectorBytes = 32;
 constexpr int kVectorBytes = 16;
 #endif
 
+constexpr int kLanes = kVectorBytes / 16;
+
 // Two lanes at most: kernels made of shuffles gain nothing from more, as lanes must be put in order again.
 constexpr int kShuffleBytes = std::min(kVectorBytes, 32);
 

@@ -41,18 +41,6 @@ KVRI_INLINE inline void widen(V v, Vec<Work>* out) {
     }
 }
 
-// Groups of 16 / K bytes in the order of K vectors that have been packed together lane by lane.
-template <int K, class V>
-inline V unpackedOrder(V v) {
-    constexpr int lanes = sizeof(V) / 16;
-    if constexpr (lanes == 1) return v;
-    else return permute4(v, [](int i) {
-        constexpr int perGroup = 4 / K;
-        const int group = i / perGroup, vector = group / lanes, lane = group % lanes;
-        return (lane * K + vector) * perGroup + i % perGroup;
-    });
-}
-
 // K vectors become two, of 16-bit elements where there were four.
 template <int K, class V>
 KVRI_INLINE inline auto halvesOf(const V* v) {

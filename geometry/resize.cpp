@@ -254,7 +254,7 @@ KvrStatus resize(const T* pSrc, int srcStep, T* pDst, int dstStep, KvriPoint dst
                               isDouble ? ResizeWeights::Double : ResizeWeights::Float};
     const auto run = [](const ResizeCall& call) KVRI_INLINE {
         if constexpr (!isDouble && (Method == kvrInterpLinear || Method == kvrInterpSuper))
-            if (halves(call.spec)) return Halver<T, L::channels, Ties::Even>::run(call);
+            if (call.spec.halves()) return Halver<T, L::channels, Ties::Even>::run(call);
         resizeByWeights<T, L::channels, Method>(call);
     };
     return applyResize<L::channels>(accepts, run, pSrc, srcStep, pDst, dstStep, dstOffset, dstSize, border, pSpec, pBuffer);

@@ -9,8 +9,7 @@
 namespace kvri {
 
 inline bool doubles(const ResizeTile& tile) {
-    const auto twice = [](const ResizeAxis& a) { return a.reducedSource == 1 && a.reducedDestination == 2; };
-    return tile.spec.method == kvrInterpLinear && twice(tile.spec.x) && twice(tile.spec.y) && tile.offset.x % 2 == 0;
+    return tile.spec.method == kvrInterpLinear && tile.spec.doubles() && tile.offset.x % 2 == 0;
 }
 
 template <class T, int C>

@@ -6,10 +6,6 @@
 
 namespace kvri {
 
-inline bool doubles8u(const ResizeSpec& spec) {
-    return spec.x.reducedSource == 1 && spec.x.reducedDestination == 2 && spec.y.reducedSource == 1 && spec.y.reducedDestination == 2;
-}
-
 // A destination row is worked on in strips that begin with an even column. Destination columns 2s and 2s + 1 have their taps
 // in source columns s - 1 to s + 1: 16 destination samples in 16 bytes of a source row, 8 bytes on from those before them.
 template <int C>

@@ -13,10 +13,6 @@ namespace kvri {
 
 enum class Ties { Up, Even };
 
-inline bool halves(const ResizeSpec& spec) {
-    return spec.x.reducedSource == 2 && spec.x.reducedDestination == 1 && spec.y.reducedSource == 2 && spec.y.reducedDestination == 1;
-}
-
 // Means of four numbers of any width: of the means of two each, with what these are too large by.
 template <class T, int B, Ties ties>
 struct MeansOfMeans {
@@ -106,8 +102,7 @@ public:
             else storePart(dst, permute4(packed, [](int i) { return i < 3 * (W / 16) ? i / 3 * 4 + i % 3 : 3; }), bytes<W>);
         } else {
             const auto v = (Bytes<W>)narrow<uint8_t>(means<W, 16, 0>(p, q), means<W, 16, 0>(p + W, q + W));
-            if constexpr (lanes == 1) store(dst, v);
-            else store(dst, permute4(v, [](int i) { return (i / 2 % (W / 16) * 2 + i / 2 / (W / 16)) * 2 + i % 2; }));
+            store(dst, unpackedOrder<2>(v));
         }
     }
 };

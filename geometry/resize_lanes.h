@@ -65,7 +65,7 @@ public:
     explicit LaneColumns(float* to) : to_(to) {}
 
     template <class U>
-    static U begin(int, ptrdiff_t) { return splat<U>(-0.0f); }
+    static U begin(int, ptrdiff_t) { return emptySum<U>(); }
     static ptrdiff_t head() { return 0; }
     // Behind the last sample, up to a block is written.
     template <int vectors>

@@ -46,8 +46,6 @@ struct EighthsPair {
     Pairs operator()(Words a, Words b) const { return (Pairs)((a * upper + b * lower + 32) >> 6); }
 };
 
-constexpr int kLanes = kVectorBytes / 16;
-
 void storeBytes(uint8_t* dst, Bytes<> v, int n) {
     if (n >= kVectorBytes) store(dst, v);
     else storePart(dst, v, n);
@@ -62,9 +60,7 @@ void combineRows(const uint8_t* upper, const uint8_t* lower, int w, int samples,
             const ptrdiff_t at = ptrdiff_t(i) * 4 + u * kVectorBytes;
             v[u] = combine(load<Split>(upper + at), load<Split>(lower + at));
         });
-        const auto bytes = narrow<uint8_t>(narrow<int16_t>(v[0], v[1]), narrow<int16_t>(v[2], v[3]));
-        if constexpr (kLanes == 1) storeBytes(dst + i, bytes, n);
-        else storeBytes(dst + i, permute4(bytes, [](int k) { return k % kLanes * 4 + k / kLanes; }), n);
+        storeBytes(dst + i, unpackedOrder<4>(narrow<uint8_t>(narrow<int16_t>(v[0], v[1]), narrow<int16_t>(v[2], v[3]))), n);
     }
 }
 
@@ -78,9 +74,7 @@ void combineEighths(const uint8_t* upper, const uint8_t* lower, int w, int sampl
             const ptrdiff_t at = ptrdiff_t(i) * 2 + u * kVectorBytes;
             v[u] = combine(load<Words>(upper + at), load<Words>(lower + at));
         });
-        const auto bytes = narrow<uint8_t>(v[0], v[1]);
-        if constexpr (kLanes == 1) storeBytes(dst + i, bytes, n);
-        else storeBytes(dst + i, permute4(bytes, [](int k) { return (k / 2 % kLanes * 2 + k / 2 / kLanes) * 2 + k % 2; }), n);
+        storeBytes(dst + i, unpackedOrder<2>(narrow<uint8_t>(v[0], v[1])), n);
     }
 }
 
@@ -300,7 +294,7 @@ template <int C, bool Eighths>
 
 template <int C>
 [[gnu::noinline]] void resizeOther(const ResizeTile& tile) {
-    if (doubles8u(tile.spec)) doubleSize<C>(tile);
+    if (tile.spec.doubles()) doubleSize<C>(tile);
     else if (!resizeStrips<C, true>(tile)) resizeStrips<C, false>(tile);
 }
 
@@ -309,7 +303,7 @@ KvrStatus linear(const Kvr8u* pSrc, int srcStep, Kvr8u* pDst, int dstStep, KvriP
                  const Kvr8u*, const KvriResizeSpec* pSpec, Kvr8u* pBuffer) {
     constexpr Accepts accepts{kResizeSpecId, kvrInterpLinear, false, ResizeWeights::Fixed14};
     const auto run = [](const ResizeCall& call) KVRI_INLINE {
-        if (halves(call.spec)) Halver<Kvr8u, L::channels, Ties::Up>::run(call);
+        if (call.spec.halves()) Halver<Kvr8u, L::channels, Ties::Up>::run(call);
         else resizeOther<L::channels>(call);
     };
     return applyResize<L::channels>(accepts, run, pSrc, srcStep, pDst, dstStep, dstOffset, dstSize, border, pSpec, pBuffer);

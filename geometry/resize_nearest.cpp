@@ -225,9 +225,9 @@ void byLanes(const ResizeTile& tile) {
 template <int B>
 void resizeNearest(const ResizeTile& tile) {
     const ResizeAxis& x = tile.spec.x;
-    if (x.reducedSource == 2 && x.reducedDestination == 1) {
+    if (x.halves()) {
         if (halveColumns<B, kVectorBytes>(tile) || halveColumns<B, kShuffleBytes>(tile) || halveColumns<B, 16>(tile)) return;
-    } else if (x.reducedSource == 1 && x.reducedDestination == 2) {
+    } else if (x.doubles()) {
         if (doubleColumns<B, kVectorBytes>(tile) || doubleColumns<B, kShuffleBytes>(tile) || doubleColumns<B, 16>(tile)) return;
     }
     if constexpr (B == kLane) byLanes(tile);

@@ -65,7 +65,7 @@ public:
         if constexpr (permutes || lanes == 1) return v;
         else if constexpr (threes) return permute4(v, [](int i) { return i < 3 * lanes ? i / 3 * 4 + i % 3 : 3; });
         else if constexpr (B == 16) return v;
-        else return permute4(v, [](int i) { return (i / 2 % lanes * 2 + i / 2 / lanes) * 2 + i % 2; });
+        else return unpackedOrder<2>(v);
     }
     static void put(uint8_t* dst, V ordered) {
         if constexpr (!threes) store(dst, ordered);

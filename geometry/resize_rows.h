@@ -61,6 +61,12 @@ private:
     static int firstOf(const ResizeSpec& spec, int position) { return spec.firstTap(spec.y, position); }
 };
 
+// What a sum begins with: a number that leaves any first product as it is.
+template <class V>
+inline V emptySum() {
+    return splat<V>(-0.0f);
+}
+
 template <class F, int vectors>
 struct GroupSums {
     Vec<F> of[kGroupRows][vectors];
@@ -73,9 +79,8 @@ struct RowsOf {
     std::array<uint8_t*, kGroupRows> p;
     int count;
 
-    // What a sum begins with: a number that leaves any first product as it is.
     template <class V>
-    static V begin(int, ptrdiff_t) { return splat<V>(-0.0f); }
+    static V begin(int, ptrdiff_t) { return emptySum<V>(); }
     ptrdiff_t head() const { return Row<T>(p[0]).head(); }
     template <int vectors>
     KVRI_INLINE void put(ptrdiff_t i, const GroupSums<RealOf<T>, vectors>& sums, ptrdiff_t samples) const {

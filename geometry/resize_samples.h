@@ -106,14 +106,10 @@ inline void storeRealsPart(uint8_t* p, V v, ptrdiff_t samples) {
     storePart(p, fromReals<T>(v), samples * ptrdiff_t(sizeof(T)));
 }
 
-constexpr int kLanes = kVectorBytes / 16;
-
 // Two vectors as one of 16-bit numbers.
 template <class T, class V>
 inline Bytes<> packedWords(V a, V b) {
-    const auto words = (Bytes<>)narrow<T>(toIntegers(a), toIntegers(b));
-    if constexpr (kLanes == 1) return words;
-    else return permute4(words, [](int i) { return (i / 2 % kLanes * 2 + i / 2 / kLanes) * 2 + i % 2; });
+    return unpackedOrder<2>((Bytes<>)narrow<T>(toIntegers(a), toIntegers(b)));
 }
 
 // Four vectors at once: packing works lane by lane, and one permutation puts all of it in order. put(place, vector) stores.
@@ -121,9 +117,7 @@ template <class T, class V, class Put>
 inline void putFourReals(uint8_t* p, const V (&v)[4], Put put) {
     if constexpr (sizeof(T) == 1) {
         const auto low = narrow<int16_t>(toIntegers(v[0]), toIntegers(v[1])), high = narrow<int16_t>(toIntegers(v[2]), toIntegers(v[3]));
-        const auto bytes = narrow<uint8_t>(low, high);
-        if constexpr (kLanes == 1) put(p, bytes);
-        else put(p, permute4(bytes, [](int i) { return i % kLanes * 4 + i / kLanes; }));
+        put(p, unpackedOrder<4>(narrow<uint8_t>(low, high)));
     } else if constexpr (sizeof(T) == 2) {
         unroll<2>([&](auto half) KVRI_INLINE { put(p + half * kVectorBytes, packedWords<T>(v[2 * half], v[2 * half + 1])); });
     } else {

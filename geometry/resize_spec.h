@@ -35,6 +35,8 @@ struct ResizeAxis {
     // The source coordinate of destination position i; pixel centres are whole numbers.
     double coordinate(int i) const { return (i + 0.5) * ratio() - 0.5; }
     bool shrinks() const { return source > destination; }
+    bool halves() const { return reducedSource == 2 && reducedDestination == 1; }
+    bool doubles() const { return reducedSource == 1 && reducedDestination == 2; }
 };
 
 struct ResizeSpec {
@@ -46,6 +48,8 @@ struct ResizeSpec {
     KvriBorderSize border;  // what GetBorderSize tells
     ResizeAxis x, y;
 
+    bool halves() const { return x.halves() && y.halves(); }
+    bool doubles() const { return x.doubles() && y.doubles(); }
     // Whether sums of 8u, in any order, are exact in single precision and in 16-bit numbers between the passes.
     bool whole() const { return x.wholeBits >= 0 && y.wholeBits >= 0 && 255 * x.magnitude * y.magnitude <= 1 << 24; }
 

@@ -17,9 +17,8 @@ class Strip {
     using Pick = Picker<F>;
     using V = Vec<F>;
     static constexpr int lanes = Pick::lanes, capacity = kStripWeightBytes / int(sizeof(F));
-    // Taps are picked from one or two loaded vectors, as many as these have, or come as pixels: of one row, or of a group's
-    // side by side.
-    enum class Way { OneLoad, TwoLoads, PixelByPixel, SideBySide };
+    // Taps of a row are picked from one or two loaded vectors, as many as these have, or come as pixels.
+    enum class Way { OneLoad, TwoLoads, PixelByPixel };
 
     alignas(64) F weight_[capacity];
     alignas(64) typename Pick::Code code_[kStripSamples + lanes];
@@ -50,8 +49,8 @@ public:
     void prepare(const ResizeSpec& spec, int position, int count, bool sideBySide) {
         int32_t place[kStripSamples + lanes];
         placeTaps(spec, position, count, place);
-        way_ = sideBySide ? Way::SideBySide : wayFor(makeCodes<C>(place), C);
-        if (way_ >= Way::PixelByPixel) {
+        if (!sideBySide) way_ = wayFor(makeCodes<C>(place), C);
+        if (sideBySide || way_ == Way::PixelByPixel) {
             std::copy(place, place + (count + 3) / 4 * 4, base_);
             setWeights<1>(spec, position);
         } else {
@@ -76,21 +75,14 @@ public:
     // Horizontal pass of some rows of the strip's columns, `rowStride` numbers apart.
     template <int C, class T>
     void apply(const F* row, ptrdiff_t rowStride, const RowsOf<T>& out) const {
-        int r = 0;
-        unroll<3>([&](auto k) KVRI_INLINE {
-            constexpr int together = 4 >> k;
-            if constexpr (together <= kGroupRows)
-                for (; out.count - r >= together; r += together) applyTogether<C, together, T>(row + r * rowStride, rowStride, &out.p[r]);
-        });
+        eachTogether(out.count, [&](auto rows, int r) KVRI_INLINE { applyTogether<C, rows, T>(row + r * rowStride, rowStride, &out.p[r]); });
     }
 
 #if defined(__AVX512BW__)
     // The same of 16-bit rows, which are less by a number that sums begin with: exact sums, in units of 2^-bits.
     template <int C>
     void applyWhole(const int16_t* row, ptrdiff_t rowStride, int begin, int bits, const RowsOf<uint8_t>& out) const {
-        int r = 0;
-        for (; out.count - r >= 4; r += 4) applyWholeRows<C, 4>(row + r * rowStride, rowStride, begin, bits, &out.p[r]);
-        for (; r < out.count; ++r) applyWholeRows<C, 1>(row + r * rowStride, rowStride, begin, bits, &out.p[r]);
+        eachTogether(out.count, [&](auto rows, int r) KVRI_INLINE { applyWholeRows<C, rows>(row + r * rowStride, rowStride, begin, bits, &out.p[r]); });
     }
 #endif
 
@@ -102,12 +94,23 @@ public:
     }
 
 private:
+    // Calls run(4, 2 or 1 as a constant, first row) for so many rows of `count` at a time.
+    template <class Run>
+    KVRI_INLINE static void eachTogether(int count, Run run) {
+        int r = 0;
+        unroll<3>([&](auto k) KVRI_INLINE {
+            constexpr int together = 4 >> k;
+            if constexpr (together <= kGroupRows)
+                for (; count - r >= together; r += together) run(std::integral_constant<int, together>{}, r);
+        });
+    }
+
     template <int C, class T, bool alike>
     void applyColumns(const F* columns, const RowsOf<T>& out) const {
         const LanePixels<T, C> sums(out.p.data(), out.count, pixels);
         for (int i = 0; i < pixels; i += 4) {
             V acc[4];
-            unroll<4>([&](auto k) KVRI_INLINE { acc[k] = splat<V>(-0.0f); });
+            unroll<4>([&](auto k) KVRI_INLINE { acc[k] = emptySum<V>(); });
             for (int t = 0; t < taps_; ++t) {
                 const F* w = weights_ + ptrdiff_t(t) * stride_ + i;
                 const V first = splat<V>(w[0]);
@@ -327,7 +330,7 @@ private:
             const F *p = row + base_[s / lanes], *w = weights_ + s;
             const auto begin = loadedOnce(load<Codes>(code_ + s));
             V acc[rows], a[rows], b[rows];
-            unroll<rows>([&](auto r) KVRI_INLINE { acc[r] = splat<V>(F(-0.0)); });
+            unroll<rows>([&](auto r) KVRI_INLINE { acc[r] = emptySum<V>(); });
             const auto loadFrom = [&](int tap) KVRI_INLINE {
                 unroll<rows>([&](auto r) KVRI_INLINE {
                     a[r] = loadedOnce(load<V>(p + r * rowStride + tap * tapStep));

@@ -12,7 +12,7 @@ namespace {
 
 using namespace test;
 
-// A call with all that it needs. The buffer and the specification end at unmapped pages, `slip` bytes off alignment.
+// A call with all that it needs. The buffer and the object end at unmapped pages, `slip` bytes off alignment.
 struct Scene {
     bool gauss, inPlace;
     KvriSize roi, mask;
