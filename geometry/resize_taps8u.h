@@ -1,0 +1,239 @@
+// geometry/resize_taps8u.h: the taps of Linear of 8u, and their weights along a row.
+//
+// A vector has four bytes for every destination sample: its left and right tap in the upper source row, then in the lower.
+// A weight pair of 14 bits is two pairs of bytes, 128 * high + low. Where the left weight is w, so is high 128 - high of the
+// right one, and low is minus low of the right one; products of two taps with either pair have 16 bits.
+#pragma once
+
+#include "core/lanes.h"
+#include "geometry/resize_apply.h"
+
+namespace kvri {
+
+// Samples that are computed together, some vectors of them.
+constexpr int kTapVectors = kVectorBytes == 64 ? 2 : 4, kVectorSamples = kVectorBytes / 4, kTapSamples = kTapVectors * kVectorSamples;
+
+// The tables of a strip of destination columns. A lane has its four samples' taps in 8 neighbouring bytes of each row, or
+// apart, in 16.
+struct TapTables {
+    static constexpr int mostGroups = 1024 / kTapSamples, mostVectors = mostGroups * kTapVectors;
+
+    alignas(64) Bytes<> control[mostVectors], high[mostVectors], low[mostVectors];
+#if defined(__AVX512BW__)
+    alignas(64) Bytes<> words[mostVectors];  // of a window of a row, for a lane
+    int32_t base[mostVectors];               // where the windows begin
+    int window;                              // their bytes, 32 or 64
+#else
+    alignas(64) Vec<int32_t> base[mostVectors];  // where the lanes' bytes begin, in the first of each lane's numbers
+#endif
+    int samples, bytes;  // destination samples; bytes of a source row
+    bool together;       // or apart
+    bool rough;          // no weight has a low part
+
+    int groups() const { return (samples + kTapSamples - 1) / kTapSamples; }
+    // A group's first sample: the last group ends with the strip, over what the one before it has.
+    int start(int group) const { return std::max(std::min(group * kTapSamples, samples - kTapSamples), 0); }
+};
+
+#if defined(__AVX512BW__)
+
+// Brings the taps of a vector together, from a window of W bytes of each row. Cut: no row has so many.
+template <int W, bool Together, bool Cut>
+class TapWindow {
+    Bytes<> words_, control_;
+    int base_;
+    __mmask64 within_;
+
+    __m512i window(const uint8_t* row) const {
+        if constexpr (Cut) return _mm512_maskz_loadu_epi8(within_, row + base_);
+        else if constexpr (W == 32) return _mm512_castsi256_si512((__m256i)load<Bytes<32>>(row + base_));
+        else return (__m512i)load<Bytes<>>(row + base_);
+    }
+
+public:
+    TapWindow(const TapTables& tables, int vector)
+        : words_(tables.words[vector]), control_(tables.control[vector]), base_(tables.base[vector]),
+          within_(Cut ? detail::lowBits(tables.bytes - base_) : 0) {}
+
+    Bytes<> operator()(const uint8_t* upper, const uint8_t* lower) const {
+        const __m512i words = (__m512i)words_, control = (__m512i)control_;
+        if constexpr (Together) {
+            return (Bytes<>)_mm512_shuffle_epi8(_mm512_permutex2var_epi16(window(upper), words, window(lower)), control);
+        } else {
+            const __m512i taps = _mm512_shuffle_epi8(_mm512_permutexvar_epi16(words, window(upper)), control);
+            constexpr __mmask64 lowerTaps = choose<Bytes<>>([](int i) { return i % 4 >= 2; });
+            return (Bytes<>)_mm512_mask_shuffle_epi8(taps, lowerTaps, _mm512_permutexvar_epi16(words, window(lower)), control);
+        }
+    }
+};
+
+#else
+
+// Brings the taps of a vector together, lane by lane.
+template <bool Together>
+class TapLanes {
+    using Lane = Bytes<16>;
+    const TapTables& tables_;
+    int vector_;
+
+    int base(int lane) const { return reinterpret_cast<const int32_t*>(tables_.base + vector_)[4 * lane]; }
+
+public:
+    TapLanes(const TapTables& tables, int vector) : tables_(tables), vector_(vector) {}
+
+    Bytes<> operator()(const uint8_t* upper, const uint8_t* lower) const {
+        const Bytes<> control = tables_.control[vector_];
+        if constexpr (Together) {
+            const auto half = [](const uint8_t* p) KVRI_INLINE { return _mm_loadl_epi64(reinterpret_cast<const __m128i*>(p)); };
+            return shuffle(fromLanes<kVectorBytes>([&](int l) KVRI_INLINE {
+                return (Lane)_mm_unpacklo_epi64(half(upper + base(l)), half(lower + base(l)));
+            }), control);
+        } else {
+            const auto row = [&](const uint8_t* row) KVRI_INLINE {
+                return shuffle(fromLanes<kVectorBytes>([&](int l) KVRI_INLINE { return load<Lane>(row + base(l)); }), control);
+            };
+            return blendWhere([](int i) { return i % 4 < 2; }, row(upper), row(lower));
+        }
+    }
+};
+
+#endif
+
+// Fills the tables.
+template <int C>
+class TapPlacer {
+    using Numbers = Vec<uint32_t>;
+    using Quad = Vec<uint32_t, 16>;
+
+    TapTables& tables_;
+    const int32_t *index_, *weight_;  // of the strip's pixels
+    int first_, last_;                // columns: the first one, and the last one behind it
+    Numbers near_{}, low_{};          // bits that are set anywhere: in what tells where taps lie in their lanes, in low parts
+
+public:
+    // Columns to be read are first to first + last; an index below or above stands for these.
+    TapPlacer(TapTables& tables, const int32_t* index, const int32_t* weight, int first, int last)
+        : tables_(tables), index_(index), weight_(weight), first_(first), last_(last) {}
+
+    // False where taps lie too far apart.
+    bool place(bool together) {
+        tables_.bytes = (last_ + 1) * C;
+        tables_.together = together;
+#if defined(__AVX512BW__)
+        int reach = 0;
+        for (int group = 0; group < tables_.groups(); ++group)
+            for (int i = 0; i < kTapVectors; ++i) reach = std::max(reach, reachOf(tables_.start(group) + i * kVectorSamples));
+        if (reach > 64) return false;
+        tables_.window = reach > 32 || tables_.bytes < 32 ? 64 : 32;
+#else
+        if (tables_.bytes < piece()) return false;
+#endif
+        for (int group = 0; group < tables_.groups(); ++group)
+            for (int i = 0; i < kTapVectors; ++i) placeVector(tables_.start(group) + i * kVectorSamples, group * kTapVectors + i);
+        tables_.rough = allZero((Bytes<>)low_);
+        return allZero((Bytes<>)(near_ & ~uint32_t(piece() - 1)));
+    }
+
+private:
+    int piece() const { return tables_.together ? 8 : 16; }
+
+#if defined(__AVX512BW__)
+    int reachOf(int sample) const { return (index_[(sample + kVectorSamples - 1) / C] - index_[sample / C] + 2) * C; }
+#endif
+
+    // Samples of a quad that begins at channel `phase` of a pixel: which pixel's they are, as bytes to shuffle by, and which
+    // channel's.
+    struct Phase {
+        alignas(16) uint8_t pixel[16];
+        alignas(16) uint32_t channel[4];
+    };
+    static constexpr auto kPhases = [] {
+        std::array<Phase, C> phases{};
+        for (int p = 0; p < C; ++p)
+            for (int k = 0; k < 16; ++k) {
+                phases[p].pixel[k] = uint8_t((p + k / 4) / C * 4 + k % 4);
+                phases[p].channel[k / 4] = uint32_t(p + k / 4) % C;
+            }
+        return phases;
+    }();
+
+    // The numbers of the pixels of samples from `sample` on.
+    static Numbers ofSamples(const int32_t* ofPixels, int sample) {
+        if constexpr (C == 1) return load<Numbers>(ofPixels + sample);
+        else
+            return (Numbers)fromLanes<kVectorBytes>([&](int l) KVRI_INLINE {
+                const int s = sample + 4 * l;
+                return shuffle(load<Bytes<16>>(ofPixels + s / C), load<Bytes<16>>(kPhases[s % C].pixel));
+            });
+    }
+    static Numbers channels(int sample) {
+        if constexpr (C == 1) return Numbers{};
+        else return (Numbers)fromLanes<kVectorBytes>([&](int l) KVRI_INLINE { return load<Bytes<16>>(kPhases[(sample + 4 * l) % C].channel); });
+    }
+
+    Numbers byteOf(Numbers column, Numbers channel) const {
+        using Signed = Vec<int32_t>;
+        const auto within = (Numbers)smaller(larger((Signed)(column - uint32_t(first_)), Signed{}), splat<Signed>(last_));
+        if constexpr (C == 1) return within;
+        else if constexpr (C == 3) return within + within + within + channel;
+        else return (within << 2) + channel;
+    }
+
+    // In all of a lane, its smallest number.
+    static Numbers smallestOfLane(Numbers v) {
+        using Signed = Vec<int32_t>;
+        Signed s = (Signed)v;
+        s = smaller(s, pick(s, [](int i) { return i ^ 1; }));
+        return (Numbers)smaller(s, pick(s, [](int i) { return i ^ 2; }));
+    }
+
+    static Numbers twice(Numbers halves) { return halves | halves << 16; }
+
+    KVRI_INLINE void placeVector(int sample, int vector) {
+        const Numbers index = ofSamples(index_, sample), right = ofSamples(weight_, sample) >> 16, channel = channels(sample);
+        // A tap without weight is not to be read: the other one stands for it.
+        placeTaps(byteOf(index + (right >> 14), channel), byteOf(index + ((right + 16383) >> 14), channel), vector, sample);
+        placeWeights(right, vector);
+    }
+
+    KVRI_INLINE void placeTaps(Numbers left, Numbers right, int vector, [[maybe_unused]] int sample) {
+        const uint32_t behind = uint32_t(std::max(tables_.bytes - step(), 0));
+#if defined(__AVX512BW__)
+        const uint32_t base = std::min(uint32_t(left[0]) - uint32_t(sample % C), behind);
+        const Numbers word = (smallestOfLane(left) - base) >> 1, begin = word * 2 + base;
+        tables_.base[vector] = int32_t(base);
+        const auto pairs = [](auto next) {
+            return constant<Numbers>([](int i) { return i % 2 ? 0 : decltype(next)::value(i % 16 / 2); });
+        };
+        struct Row { static constexpr int value(int i) { return i; } };
+        struct Rows { static constexpr int value(int i) { return i % 4 + i / 4 * 32; } };
+        tables_.words[vector] = (Bytes<>)(twice(word) + (tables_.together ? pairs(Rows{}) : pairs(Row{})));
+#else
+        using Signed = Vec<int32_t>;
+        const Numbers begin = (Numbers)smaller((Signed)smallestOfLane(left), splat<Signed>(int32_t(behind)));
+        tables_.base[vector] = (Signed)begin;
+#endif
+        const Numbers l = left - begin, r = right - begin;
+        near_ |= l | r;
+        tables_.control[vector] = (Bytes<>)(twice(l | r << 8) + (tables_.together ? 0x08080000u : 0u));
+    }
+
+    int step() const {
+#if defined(__AVX512BW__)
+        return tables_.window;
+#else
+        return piece();
+#endif
+    }
+
+    KVRI_INLINE void placeWeights(Numbers right, int vector) {
+        using Signed = Vec<int32_t>;
+        const Numbers high = (Numbers)smaller(larger((Signed)((right + 64) >> 7), splat<Signed>(1)), splat<Signed>(127));
+        const Numbers low = (right - (high << 7)) & (Numbers)((right & 16383) != 0);
+        low_ |= low;
+        tables_.high[vector] = (Bytes<>)twice((128 - high) | high << 8);
+        tables_.low[vector] = (Bytes<>)twice(((0 - low) & 255) | (low & 255) << 8);
+    }
+};
+
+}  // namespace kvri
