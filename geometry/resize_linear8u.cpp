@@ -15,11 +15,30 @@
 namespace kvri {
 namespace {
 
-// What a destination row is made of.
-struct RowPair {
-    const uint8_t *upper, *lower;  // source rows
-    uint32_t weights;              // as 16-bit numbers
-    bool isNew;                    // not the source rows of the row before
+// What some destination rows are made of.
+struct RowPairs {
+    static constexpr int most = 16;
+
+    const uint8_t* source;  // row 0
+    ptrdiff_t sourceStep;
+    alignas(64) int32_t upper[most], lower[most];
+    alignas(64) uint32_t weights[most];  // of the upper and the lower row, as 16-bit numbers
+    int rows;
+
+    // Of rows in the object's tables.
+    void set(const int32_t* index, const int32_t* weight, const Readable& readable) {
+        using Numbers = Vec<int32_t>;
+        const auto within = [&](Numbers v) KVRI_INLINE { return smaller(larger(v, splat<Numbers>(readable.low)), splat<Numbers>(readable.high)); };
+        for (int i = 0; i < rows; i += kVectorBytes / 4) {
+            const auto values = [&](const int32_t* table) KVRI_INLINE {
+                return loadPart<Numbers>(reinterpret_cast<const uint8_t*>(table + i), (rows - i) * ptrdiff_t(sizeof(int32_t)));
+            };
+            const Numbers position = values(index), w = values(weight);
+            store(upper + i, within(position));
+            store(lower + i, within(position - (w != 0)));  // no row without weight is to be read
+            store(weights + i, (w << 16) | (16384 - w));
+        }
+    }
 };
 
 // Sums along both rows of a vector's samples.
@@ -51,7 +70,7 @@ KVRI_INLINE inline auto roundedBytes(const Vec<int32_t> (&v)[kTapVectors]) {
 }
 
 template <class Gather, bool Rough>
-void sumRows(const TapTables& taps, const RowPair* rows, int n, uint8_t* dst, ptrdiff_t step) {
+void sumRows(const TapTables& taps, const RowPairs& pairs, uint8_t* dst, ptrdiff_t step) {
     for (int group = 0; group < taps.groups(); ++group) {
         const auto constants = [&](auto f) KVRI_INLINE {
             return [&]<int... i>(std::integer_sequence<int, i...>) KVRI_INLINE {
@@ -59,14 +78,18 @@ void sumRows(const TapTables& taps, const RowPair* rows, int n, uint8_t* dst, pt
             }(std::make_integer_sequence<int, kTapVectors>{});
         };
         const auto gather = constants([&](int at) KVRI_INLINE { return Gather(taps, at); });
-        const auto high = constants([&](int at) KVRI_INLINE { return taps.high[at]; }), low = constants([&](int at) KVRI_INLINE { return taps.low[at]; });
+        const auto high = constants([&](int at) KVRI_INLINE { return taps.vector[at].high; }), low = constants([&](int at) KVRI_INLINE { return taps.vector[at].low; });
         PairSums<Rough> sums[kTapVectors];
         uint8_t* to = dst + taps.start(group);
-        for (int y = 0; y < n; ++y, to += step) {
-            const RowPair& row = rows[y];
-            if (row.isNew) unroll<kTapVectors>([&](auto i) KVRI_INLINE { sums[i].set(gather[i](row.upper, row.lower), high[i], low[i]); });
+        for (int y = 0, above = INT_MIN, below = INT_MIN; y < pairs.rows; ++y, to += step) {
+            const int upper = pairs.upper[y], lower = pairs.lower[y];
+            if (upper != above || lower != below) {
+                const uint8_t *p = pairs.source + upper * pairs.sourceStep, *q = pairs.source + lower * pairs.sourceStep;
+                unroll<kTapVectors>([&](auto i) KVRI_INLINE { sums[i].set(gather[i](p, q), high[i], low[i]); });
+                above = upper, below = lower;
+            }
             Vec<int32_t> v[kTapVectors];
-            const auto weights = (Vec<int16_t>)splat<Vec<uint32_t>>(row.weights);
+            const auto weights = (Vec<int16_t>)splat<Vec<uint32_t>>(pairs.weights[y]);
             unroll<kTapVectors>([&](auto i) KVRI_INLINE { v[i] = sums[i].weighted(weights); });
             const auto bytes = roundedBytes(v);
             if (taps.samples >= kTapSamples) store(to, bytes);
@@ -75,7 +98,7 @@ void sumRows(const TapTables& taps, const RowPair* rows, int n, uint8_t* dst, pt
     }
 }
 
-constexpr int kBandRows = 8, kTurnRows = 256;
+constexpr int kTurnRows = 256;
 
 template <int C>
 class LinearResizer {
@@ -115,8 +138,9 @@ private:
         first_ = tile_.columns(index[0]);
         const int last = tile_.columns(index[count - 1] + (weight[count - 1] >> 16 != 0)) - first_;
         TapPlacer<C> placer(taps_, index, weight, first_, last);
-        const double ratio = spec_.x.ratio(), mostTogether = C == 1 ? 5. / 3 : C == 3 ? 1 : 1e9;
-        tapByTap_ = !(ratio <= mostTogether && placer.place(true)) && !(ratio < 5 && placer.place(false));
+        const int64_t source = spec_.x.source, destination = spec_.x.destination;
+        const bool together = C == 4 || (C == 3 ? source <= destination : 3 * source <= 5 * destination);
+        tapByTap_ = !(together && placer.place(true)) && !(source < 5 * destination && placer.place(false));
         if (!tapByTap_) return;
         for (int i = 0; i < count; ++i) {
             left_[i] = std::min(tile_.columns(index[i]) - first_, last) * C;
@@ -131,49 +155,47 @@ private:
         return to;
     }
 
-    const uint8_t* copied(const uint8_t* row, uint8_t* to) const {
-        uint8_t* at = to;
-        for (int i = 0; i < taps_.samples / C; ++i, at += 2 * C) {
-            std::memcpy(at, row + left_[i], C);
-            std::memcpy(at + C, row + right_[i], C);
+    void copyTaps(const uint8_t* row, uint8_t* to) const {
+        for (int i = 0; i < taps_.samples / C; ++i, to += 2 * C) {
+            std::memcpy(to, row + left_[i], C);
+            std::memcpy(to + C, row + right_[i], C);
         }
-        return to;
     }
 
     void runStrip(int x, int y, int end) {
         const int32_t* index = spec_.table<int32_t>(spec_.y.index) + tile_.offset.y;
         const int32_t* weight = spec_.table<int32_t>(spec_.y.weights) + tile_.offset.y;
-        const int bandRows = tapByTap_ ? 1 : kBandRows;
-        for (; y < end; y += bandRows) {
-            RowPair rows[kBandRows];
-            const int n = std::min(bandRows, end - y);
-            for (int i = 0; i < n; ++i) {
-                const int w = weight[y + i];
-                rows[i].upper = tile_.source(index[y + i], first_, C);
-                rows[i].lower = w == 0 ? rows[i].upper : tile_.source(index[y + i] + 1, first_, C);
-                rows[i].weights = uint32_t(w) << 16 | uint32_t(16384 - w);
-                rows[i].isNew = i == 0 || rows[i].upper != rows[i - 1].upper || rows[i].lower != rows[i - 1].lower;
+        RowPairs pairs;
+        const uint8_t* top = tile_.src - tile_.origin.y * tile_.srcStep + (ptrdiff_t(first_) - tile_.origin.x) * C;
+        if (!tapByTap_) pairs.source = top, pairs.sourceStep = tile_.srcStep;
+        else pairs.source = pixels_[0], pairs.sourceStep = sizeof pixels_[0];
+        for (; y < end; y += pairs.rows) {
+            pairs.rows = std::min(tapByTap_ ? 1 : RowPairs::most, end - y);
+            pairs.set(index + y, weight + y, tile_.rows);
+            if (tapByTap_) {
+                copyTaps(top + pairs.upper[0] * tile_.srcStep, pixels_[0]);
+                copyTaps(top + pairs.lower[0] * tile_.srcStep, pixels_[1]);
+                pairs.upper[0] = 0, pairs.lower[0] = 1;
             }
-            if (tapByTap_) rows[0].upper = copied(rows[0].upper, pixels_[0]), rows[0].lower = copied(rows[0].lower, pixels_[1]);
-            sum(rows, n, tile_.destination(y, x, C));
+            sum(pairs, tile_.destination(y, x, C));
         }
     }
 
-    void sum(const RowPair* rows, int n, uint8_t* dst) const {
+    void sum(const RowPairs& pairs, uint8_t* dst) const {
 #if defined(__AVX512BW__)
-        if (taps_.window == 32) sumFrom<TapWindow<32, true, false>, TapWindow<32, false, false>>(rows, n, dst);
-        else if (taps_.bytes >= 64) sumFrom<TapWindow<64, true, false>, TapWindow<64, false, false>>(rows, n, dst);
-        else sumFrom<TapWindow<64, true, true>, TapWindow<64, false, true>>(rows, n, dst);
+        if (taps_.window == 32) sumFrom<TapWindow<32, true, false>, TapWindow<32, false, false>>(pairs, dst);
+        else if (taps_.bytes >= 64) sumFrom<TapWindow<64, true, false>, TapWindow<64, false, false>>(pairs, dst);
+        else sumFrom<TapWindow<64, true, true>, TapWindow<64, false, true>>(pairs, dst);
 #else
-        sumFrom<TapLanes<true>, TapLanes<false>>(rows, n, dst);
+        sumFrom<TapLanes<true>, TapLanes<false>>(pairs, dst);
 #endif
     }
 
     template <class Together, class Apart>
-    void sumFrom(const RowPair* rows, int n, uint8_t* dst) const {
+    void sumFrom(const RowPairs& pairs, uint8_t* dst) const {
         const auto run = [&]<class Gather>(std::type_identity<Gather>) {
-            if (taps_.rough) sumRows<Gather, true>(taps_, rows, n, dst, tile_.dstStep);
-            else sumRows<Gather, false>(taps_, rows, n, dst, tile_.dstStep);
+            if (taps_.rough) sumRows<Gather, true>(taps_, pairs, dst, tile_.dstStep);
+            else sumRows<Gather, false>(taps_, pairs, dst, tile_.dstStep);
         };
         if (taps_.together) run(std::type_identity<Together>{});
         else run(std::type_identity<Apart>{});

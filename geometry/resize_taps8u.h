@@ -18,13 +18,18 @@ constexpr int kTapVectors = kVectorBytes == 64 ? 2 : 4, kVectorSamples = kVector
 struct TapTables {
     static constexpr int mostGroups = 1024 / kTapSamples, mostVectors = mostGroups * kTapVectors;
 
-    alignas(64) Bytes<> control[mostVectors], high[mostVectors], low[mostVectors];
+    struct Vector {
+        Bytes<> control, high, low;
 #if defined(__AVX512BW__)
-    alignas(64) Bytes<> words[mostVectors];  // of a window of a row, for a lane
-    int32_t base[mostVectors];               // where the windows begin
-    int window;                              // their bytes, 32 or 64
+        Bytes<> words;  // of a window of a row, for a lane
 #else
-    alignas(64) Vec<int32_t> base[mostVectors];  // where the lanes' bytes begin, in the first of each lane's numbers
+        Vec<int32_t> base;  // where the lanes' bytes begin, in the first of each lane's numbers
+#endif
+    };
+    alignas(64) Vector vector[mostVectors];
+#if defined(__AVX512BW__)
+    int32_t base[mostVectors];  // where the windows begin
+    int window;                 // their bytes, 32 or 64
 #endif
     int samples, bytes;  // destination samples; bytes of a source row
     bool together;       // or apart
@@ -52,7 +57,7 @@ class TapWindow {
 
 public:
     TapWindow(const TapTables& tables, int vector)
-        : words_(tables.words[vector]), control_(tables.control[vector]), base_(tables.base[vector]),
+        : words_(tables.vector[vector].words), control_(tables.vector[vector].control), base_(tables.base[vector]),
           within_(Cut ? detail::lowBits(tables.bytes - base_) : 0) {}
 
     Bytes<> operator()(const uint8_t* upper, const uint8_t* lower) const {
@@ -76,13 +81,13 @@ class TapLanes {
     const TapTables& tables_;
     int vector_;
 
-    int base(int lane) const { return reinterpret_cast<const int32_t*>(tables_.base + vector_)[4 * lane]; }
+    int base(int lane) const { return reinterpret_cast<const int32_t*>(&tables_.vector[vector_].base)[4 * lane]; }
 
 public:
     TapLanes(const TapTables& tables, int vector) : tables_(tables), vector_(vector) {}
 
     Bytes<> operator()(const uint8_t* upper, const uint8_t* lower) const {
-        const Bytes<> control = tables_.control[vector_];
+        const Bytes<> control = tables_.vector[vector_].control;
         if constexpr (Together) {
             const auto half = [](const uint8_t* p) KVRI_INLINE { return _mm_loadl_epi64(reinterpret_cast<const __m128i*>(p)); };
             return shuffle(fromLanes<kVectorBytes>([&](int l) KVRI_INLINE {
@@ -207,15 +212,15 @@ private:
         };
         struct Row { static constexpr int value(int i) { return i; } };
         struct Rows { static constexpr int value(int i) { return i % 4 + i / 4 * 32; } };
-        tables_.words[vector] = (Bytes<>)(twice(word) + (tables_.together ? pairs(Rows{}) : pairs(Row{})));
+        tables_.vector[vector].words = (Bytes<>)(twice(word) + (tables_.together ? pairs(Rows{}) : pairs(Row{})));
 #else
         using Signed = Vec<int32_t>;
         const Numbers begin = (Numbers)smaller((Signed)smallestOfLane(left), splat<Signed>(int32_t(behind)));
-        tables_.base[vector] = (Signed)begin;
+        tables_.vector[vector].base = (Signed)begin;
 #endif
         const Numbers l = left - begin, r = right - begin;
         near_ |= l | r;
-        tables_.control[vector] = (Bytes<>)(twice(l | r << 8) + (tables_.together ? 0x08080000u : 0u));
+        tables_.vector[vector].control = (Bytes<>)(twice(l | r << 8) + (tables_.together ? 0x08080000u : 0u));
     }
 
     int step() const {
@@ -231,8 +236,8 @@ private:
         const Numbers high = (Numbers)smaller(larger((Signed)((right + 64) >> 7), splat<Signed>(1)), splat<Signed>(127));
         const Numbers low = (right - (high << 7)) & (Numbers)((right & 16383) != 0);
         low_ |= low;
-        tables_.high[vector] = (Bytes<>)twice((128 - high) | high << 8);
-        tables_.low[vector] = (Bytes<>)twice(((0 - low) & 255) | (low & 255) << 8);
+        tables_.vector[vector].high = (Bytes<>)twice((128 - high) | high << 8);
+        tables_.vector[vector].low = (Bytes<>)twice(((0 - low) & 255) | (low & 255) << 8);
     }
 };
 
