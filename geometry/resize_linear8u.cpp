@@ -17,13 +17,14 @@ namespace {
 
 // What some destination rows are made of.
 struct RowPairs {
-    static constexpr int most = 16;
+    static constexpr int most = 32;
 
     const uint8_t* source;  // row 0
     ptrdiff_t sourceStep;
     alignas(64) int32_t upper[most], lower[most];
     alignas(64) uint32_t weights[most];  // of the upper and the lower row, as 16-bit numbers
     int rows;
+    int alwaysNew;  // INT_MIN: few rows in a row have the same source rows, too few to foresee which; else 0
 
     // Of rows in the object's tables.
     void set(const int32_t* index, const int32_t* weight, const Readable& readable) {
@@ -86,7 +87,7 @@ void sumRows(const TapTables& taps, const RowPairs& pairs, uint8_t* dst, ptrdiff
             if (upper != above || lower != below) {
                 const uint8_t *p = pairs.source + upper * pairs.sourceStep, *q = pairs.source + lower * pairs.sourceStep;
                 unroll<kTapVectors>([&](auto i) KVRI_INLINE { sums[i].set(gather[i](p, q), high[i], low[i]); });
-                above = upper, below = lower;
+                above = upper | pairs.alwaysNew, below = lower;
             }
             Vec<int32_t> v[kTapVectors];
             const auto weights = (Vec<int16_t>)splat<Vec<uint32_t>>(pairs.weights[y]);
@@ -117,11 +118,12 @@ public:
     explicit LinearResizer(const ResizeTile& tile) : tile_(tile) {}
 
     void run() {
-        const int width = tile_.size.width, height = tile_.size.height, strips = (width + most - 1) / most;
+        const int width = tile_.size.width, height = tile_.size.height;
+        int strip = width;  // strips of about the same width, so that none is short
+        if (width > most) strip = (width + width / most) / (width / most + 1);
         for (int y = 0; y < height; y += kTurnRows)
-            for (int i = 0; i < strips; ++i) {
-                const int x = int(int64_t(width) * i / strips), end = int(int64_t(width) * (i + 1) / strips);
-                prepare(x, end - x);
+            for (int x = 0; x < width; x += strip) {
+                prepare(x, std::min(strip, width - x));
                 runStrip(x, y, std::min(height, y + kTurnRows));
             }
     }
@@ -166,6 +168,7 @@ private:
         const int32_t* index = spec_.table<int32_t>(spec_.y.index) + tile_.offset.y;
         const int32_t* weight = spec_.table<int32_t>(spec_.y.weights) + tile_.offset.y;
         RowPairs pairs;
+        pairs.alwaysNew = taps_.groups() <= 2 && 5 * int64_t(spec_.y.source) > 3 * int64_t(spec_.y.destination) ? INT_MIN : 0;
         const uint8_t* top = tile_.src - tile_.origin.y * tile_.srcStep + (ptrdiff_t(first_) - tile_.origin.x) * C;
         if (!tapByTap_) pairs.source = top, pairs.sourceStep = tile_.srcStep;
         else pairs.source = pixels_[0], pairs.sourceStep = sizeof pixels_[0];
@@ -215,7 +218,7 @@ template <int C>
 
 template <int C>
 [[gnu::noinline]] void resizeOther(const ResizeTile& tile) {
-    if (tile.spec.doubles()) doubleSize<C>(tile);
+    if (tile.spec.doubles() && tile.size.width * C >= kVectorBytes) doubleSize<C>(tile);
     else resizeStrips<C>(tile);
 }
 
