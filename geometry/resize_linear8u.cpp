@@ -164,6 +164,14 @@ private:
         }
     }
 
+    // Of rows whose parts lie in the same set of the first-level cache, as many as it holds with their source rows.
+    int rowsAtATime() const {
+        if ((tile_.srcStep | tile_.dstStep) % 2048 != 0) return RowPairs::most;
+        constexpr int held = 9;
+        const int64_t source = spec_.y.reducedSource, destination = spec_.y.reducedDestination;
+        return std::max(1, int(held * destination / (source + destination)));
+    }
+
     void runStrip(int x, int y, int end) {
         const int32_t* index = spec_.table<int32_t>(spec_.y.index) + tile_.offset.y;
         const int32_t* weight = spec_.table<int32_t>(spec_.y.weights) + tile_.offset.y;
@@ -172,8 +180,9 @@ private:
         const uint8_t* top = tile_.src - tile_.origin.y * tile_.srcStep + (ptrdiff_t(first_) - tile_.origin.x) * C;
         if (!tapByTap_) pairs.source = top, pairs.sourceStep = tile_.srcStep;
         else pairs.source = pixels_[0], pairs.sourceStep = sizeof pixels_[0];
+        const int bandRows = tapByTap_ ? 1 : rowsAtATime();
         for (; y < end; y += pairs.rows) {
-            pairs.rows = std::min(tapByTap_ ? 1 : RowPairs::most, end - y);
+            pairs.rows = std::min(bandRows, end - y);
             pairs.set(index + y, weight + y, tile_.rows);
             if (tapByTap_) {
                 copyTaps(top + pairs.upper[0] * tile_.srcStep, pixels_[0]);
@@ -186,12 +195,11 @@ private:
 
     void sum(const RowPairs& pairs, uint8_t* dst) const {
 #if defined(__AVX512BW__)
-        if (taps_.window == 32) sumFrom<TapWindow<32, true, false>, TapWindow<32, false, false>>(pairs, dst);
-        else if (taps_.bytes >= 64) sumFrom<TapWindow<64, true, false>, TapWindow<64, false, false>>(pairs, dst);
-        else sumFrom<TapWindow<64, true, true>, TapWindow<64, false, true>>(pairs, dst);
-#else
-        sumFrom<TapLanes<true>, TapLanes<false>>(pairs, dst);
+        if (taps_.window == 32) return sumFrom<TapWindow<32, true, false>, TapWindow<32, false, false>>(pairs, dst);
+        if (taps_.window == 64 && taps_.bytes >= 64) return sumFrom<TapWindow<64, true, false>, TapWindow<64, false, false>>(pairs, dst);
+        if (taps_.window == 64) return sumFrom<TapWindow<64, true, true>, TapWindow<64, false, true>>(pairs, dst);
 #endif
+        sumFrom<TapLanes<true>, TapLanes<false>>(pairs, dst);
     }
 
     template <class Together, class Apart>
@@ -217,6 +225,13 @@ template <int C>
 }
 
 template <int C>
+void copyRows(const ResizeCall& call) {
+    const uint8_t* src = call.src;
+    uint8_t* dst = call.dst;
+    for (int y = 0; y < call.size.height; ++y, src += call.srcStep, dst += call.dstStep) std::memcpy(dst, src, size_t(call.size.width) * C);
+}
+
+template <int C>
 [[gnu::noinline]] void resizeOther(const ResizeTile& tile) {
     if (tile.spec.doubles() && tile.size.width * C >= kVectorBytes) doubleSize<C>(tile);
     else resizeStrips<C>(tile);
@@ -228,6 +243,7 @@ KvrStatus linear(const Kvr8u* pSrc, int srcStep, Kvr8u* pDst, int dstStep, KvriP
     constexpr Accepts accepts{kResizeSpecId, kvrInterpLinear, false, ResizeWeights::Fixed14};
     const auto run = [](const ResizeCall& call) KVRI_INLINE {
         if (call.spec.halves()) Halver<Kvr8u, L::channels, Ties::Up>::run(call);
+        else if (call.spec.keeps()) copyRows<L::channels>(call);
         else resizeOther<L::channels>(call);
     };
     return applyResize<L::channels>(accepts, run, pSrc, srcStep, pDst, dstStep, dstOffset, dstSize, border, pSpec, pBuffer);

@@ -37,6 +37,7 @@ struct ResizeAxis {
     bool shrinks() const { return source > destination; }
     bool halves() const { return reducedSource == 2 && reducedDestination == 1; }
     bool doubles() const { return reducedSource == 1 && reducedDestination == 2; }
+    bool keeps() const { return source == destination; }
 };
 
 struct ResizeSpec {
@@ -50,6 +51,7 @@ struct ResizeSpec {
 
     bool halves() const { return x.halves() && y.halves(); }
     bool doubles() const { return x.doubles() && y.doubles(); }
+    bool keeps() const { return x.keeps() && y.keeps(); }
     // Whether sums of 8u, in any order, are exact in single precision and in 16-bit numbers between the passes.
     bool whole() const { return x.wholeBits >= 0 && y.wholeBits >= 0 && 255 * x.magnitude * y.magnitude <= 1 << 24; }
 

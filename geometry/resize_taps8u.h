@@ -20,17 +20,11 @@ struct TapTables {
 
     struct Vector {
         Bytes<> control, high, low;
-#if defined(__AVX512BW__)
-        Bytes<> words;  // of a window of a row, for a lane
-#else
-        Vec<int32_t> base;  // where the lanes' bytes begin, in the first of each lane's numbers
-#endif
+        Bytes<> words;  // of a window of a row, for each lane; without windows, where a lane's bytes begin, in four bytes
     };
     alignas(64) Vector vector[mostVectors];
-#if defined(__AVX512BW__)
     int32_t base[mostVectors];  // where the windows begin
-    int window;                 // their bytes, 32 or 64
-#endif
+    int window;                 // their bytes, 32 or 64; 0: none
     int samples, bytes;  // destination samples; bytes of a source row
     bool together;       // or apart
     bool rough;          // no weight has a low part
@@ -72,7 +66,7 @@ public:
     }
 };
 
-#else
+#endif
 
 // Brings the taps of a vector together, lane by lane.
 template <bool Together>
@@ -81,7 +75,7 @@ class TapLanes {
     const TapTables& tables_;
     int vector_;
 
-    int base(int lane) const { return reinterpret_cast<const int32_t*>(&tables_.vector[vector_].base)[4 * lane]; }
+    int base(int lane) const { return reinterpret_cast<const int32_t*>(&tables_.vector[vector_].words)[4 * lane]; }
 
 public:
     TapLanes(const TapTables& tables, int vector) : tables_(tables), vector_(vector) {}
@@ -101,8 +95,6 @@ public:
         }
     }
 };
-
-#endif
 
 // Fills the tables.
 template <int C>
@@ -124,15 +116,8 @@ public:
     bool place(bool together) {
         tables_.bytes = (last_ + 1) * C;
         tables_.together = together;
-#if defined(__AVX512BW__)
-        int reach = 0;
-        for (int group = 0; group < tables_.groups(); ++group)
-            for (int i = 0; i < kTapVectors; ++i) reach = std::max(reach, reachOf(tables_.start(group) + i * kVectorSamples));
-        if (reach > 64) return false;
-        tables_.window = reach > 32 || tables_.bytes < 32 ? 64 : 32;
-#else
-        if (tables_.bytes < piece()) return false;
-#endif
+        tables_.window = window();
+        if (tables_.window == 0 && tables_.bytes < piece()) return false;
         for (int group = 0; group < tables_.groups(); ++group)
             for (int i = 0; i < kTapVectors; ++i) placeVector(tables_.start(group) + i * kVectorSamples, group * kTapVectors + i);
         tables_.rough = allZero((Bytes<>)low_);
@@ -142,9 +127,16 @@ public:
 private:
     int piece() const { return tables_.together ? 8 : 16; }
 
-#if defined(__AVX512BW__)
-    int reachOf(int sample) const { return (index_[(sample + kVectorSamples - 1) / C] - index_[sample / C] + 2) * C; }
-#endif
+    int window() const {
+        if (kVectorBytes < 64) return 0;
+        int reach = 0;
+        for (int group = 0; group < tables_.groups(); ++group)
+            for (int i = 0; i < kTapVectors; ++i) {
+                const int sample = tables_.start(group) + i * kVectorSamples;
+                reach = std::max(reach, (index_[(sample + kVectorSamples - 1) / C] - index_[sample / C] + 2) * C);
+            }
+        return reach > 64 ? 0 : reach > 32 || tables_.bytes < 32 ? 64 : 32;
+    }
 
     // Samples of a quad that begins at channel `phase` of a pixel: which pixel's they are, as bytes to shuffle by, and which
     // channel's.
@@ -201,34 +193,30 @@ private:
         placeWeights(right, vector);
     }
 
-    KVRI_INLINE void placeTaps(Numbers left, Numbers right, int vector, [[maybe_unused]] int sample) {
-        const uint32_t behind = uint32_t(std::max(tables_.bytes - step(), 0));
-#if defined(__AVX512BW__)
-        const uint32_t base = std::min(uint32_t(left[0]) - uint32_t(sample % C), behind);
-        const Numbers word = (smallestOfLane(left) - base) >> 1, begin = word * 2 + base;
-        tables_.base[vector] = int32_t(base);
-        const auto pairs = [](auto next) {
-            return constant<Numbers>([](int i) { return i % 2 ? 0 : decltype(next)::value(i % 16 / 2); });
-        };
-        struct Row { static constexpr int value(int i) { return i; } };
-        struct Rows { static constexpr int value(int i) { return i % 4 + i / 4 * 32; } };
-        tables_.vector[vector].words = (Bytes<>)(twice(word) + (tables_.together ? pairs(Rows{}) : pairs(Row{})));
-#else
+    KVRI_INLINE void placeTaps(Numbers left, Numbers right, int vector, int sample) {
         using Signed = Vec<int32_t>;
-        const Numbers begin = (Numbers)smaller((Signed)smallestOfLane(left), splat<Signed>(int32_t(behind)));
-        tables_.vector[vector].base = (Signed)begin;
-#endif
+        Numbers begin = smallestOfLane(left);
+        if (tables_.window != 0) {
+            const int last = std::max(tables_.bytes - tables_.window, 0);  // no window ends behind the row
+            const uint32_t base = uint32_t(std::min(int32_t(left[0]) - sample % C, last));
+            const Numbers word = (begin - base) >> 1;
+            begin = word * 2 + base;
+            tables_.base[vector] = int32_t(base);
+            tables_.vector[vector].words = (Bytes<>)(twice(word) + (tables_.together ? wordPairs([](int i) { return i % 4 + i / 4 * 32; })
+                                                                                      : wordPairs([](int i) { return i; })));
+        } else {
+            begin = (Numbers)smaller((Signed)begin, splat<Signed>(tables_.bytes - piece()));
+            tables_.vector[vector].words = (Bytes<>)begin;
+        }
         const Numbers l = left - begin, r = right - begin;
         near_ |= l | r;
         tables_.vector[vector].control = (Bytes<>)(twice(l | r << 8) + (tables_.together ? 0x08080000u : 0u));
     }
 
-    int step() const {
-#if defined(__AVX512BW__)
-        return tables_.window;
-#else
-        return piece();
-#endif
+    // Numbers f(0) to f(7) of 16 bits in each lane.
+    template <class F>
+    static Numbers wordPairs(F) {
+        return constant<Numbers>([](int i) { return i % 2 ? 0 : F{}(i % 16 / 2); });
     }
 
     KVRI_INLINE void placeWeights(Numbers right, int vector) {
