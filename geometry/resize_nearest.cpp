@@ -8,6 +8,7 @@
 #include "core/layout.h"
 #include "geometry/resize_apply.h"
 #include "geometry/resize_pairs.h"
+#include "geometry/resize_windows.h"
 
 namespace kvri {
 namespace {
@@ -23,22 +24,23 @@ class NearestStrip {
     alignas(64) Lane place_[kStripLanes];  // of each destination byte, from the lane's base on
     int32_t base_[kStripLanes];
     int lanes_, reach_;  // bytes that a lane's shuffle may reach; 0: pixels are copied
-
-public:
-    static constexpr int most = kStripLanes * kLane / B;
     const int32_t* index;  // source columns
     int pixels;
 
-    void prepare(const ResizeSpec& spec, int position, int count) {
-        index = spec.table<int32_t>(spec.x.index) + position;
+public:
+    static constexpr int most = kStripLanes * kLane;  // destination bytes
+
+    template <int>
+    bool prepare(const int32_t* columns, int count) {
+        index = columns;
         pixels = count;
         reach_ = 0;
         lanes_ = (count * B + kLane - 1) / kLane;
-        if (count * B < kLane) return;
+        if (count * B < kLane) return true;
         Lane widest{};
         for (int i = 0; i < lanes_; ++i) {
             const int byte = start(i), pixel = byte / B, phase = byte % B;
-            const Lane place = offsets(index + pixel, phase);
+            const Lane place = laneOffsets<B>(index + pixel, phase);
             // The second pixel may begin before the first byte.
             const int low = phase == 0 ? 0 : std::min(phase, (index[pixel + 1] - index[pixel]) * B);
             base_[i] = (index[pixel] - index[0]) * B + low;
@@ -47,16 +49,21 @@ public:
         }
         const int reach = allZero(widest & uint8_t(-kLane)) ? kLane : allZero(widest & uint8_t(-2 * kLane)) ? 2 * kLane : 0;
         const int behind = (index[count - 1] - index[0] + 1) * B - reach;
-        if (reach == 0 || behind < 0) return;
+        if (reach == 0 || behind < 0) return true;
         reach_ = reach;
         for (int i = lanes_ - 1; i >= 0 && base_[i] > behind; --i) {
             place_[i] += uint8_t(base_[i] - behind);
             base_[i] = behind;
         }
+        return true;
     }
 
+    static constexpr int mostRows = 1;
+    static int rowsAtATime() { return mostRows; }
+
     // src: the pixel of the first source column.
-    void apply(const uint8_t* src, uint8_t* dst) const {
+    void apply(const uint8_t* const* rows, int, uint8_t* dst, ptrdiff_t) const {
+        const uint8_t* src = rows[0];
         if (reach_ == kLane) return shuffleLanes<1>(src, dst);
         if (reach_ != 0) return shuffleLanes<2>(src, dst);
         for (int i = 0, first = index[0]; i < pixels; ++i) std::memcpy(dst + i * B, src + ptrdiff_t(index[i] - first) * B, B);
@@ -64,28 +71,6 @@ public:
 
 private:
     int start(int lane) const { return std::min(lane * kLane, pixels * B - kLane); }
-
-    // Byte k of a lane that begins `phase` bytes into a pixel: whose pixel's it is, and which of its bytes.
-    static constexpr auto table(auto entry) {
-        std::array<std::array<uint8_t, kLane>, B> t{};
-        for (int phase = 0; phase < B; ++phase)
-            for (int k = 0; k < kLane; ++k) t[phase][k] = uint8_t(entry(phase + k));
-        return t;
-    }
-    static constexpr auto kPixelOf = table([](int byte) { return byte / B; }), kByteOf = table([](int byte) { return byte % B; });
-
-    // Source bytes of a lane's destination bytes, from the first pixel's on; at most 255. What is read of `index` behind the
-    // row's end, three entries at most, is not used.
-    static Lane offsets(const int32_t* index, int phase) {
-        using Indices = Vec<uint32_t, kLane>;
-        constexpr int vectors = B == 1 ? 4 : B <= 3 ? 2 : 1;
-        const auto pixels = [&](int j) KVRI_INLINE {
-            const Indices v = load<Indices>(index + std::min(j, vectors - 1) * 4) - uint32_t(index[0]);
-            return (Vec<int32_t, kLane>)(v * uint32_t(B));
-        };
-        const auto begins = (Lane)narrow<uint8_t>(narrow<int16_t>(pixels(0), pixels(1)), narrow<int16_t>(pixels(2), pixels(3)));
-        return addSaturated(shuffle(begins, load<Lane>(kPixelOf[phase].data())), load<Lane>(kByteOf[phase].data()));
-    }
 
     template <int Loads>
     void shuffleLanes(const uint8_t* src, uint8_t* dst) const {
@@ -189,21 +174,35 @@ void streamRow(uint8_t* dst, const uint8_t* from, ptrdiff_t n) {
     storePart(dst + i, load<Bytes<>>(from + i), n - i);
 }
 
-template <int B>
-void byStrips(const ResizeTile& tile) {
-    NearestStrip<B> strip;
-    for (int x = 0; x < tile.size.width; x += strip.most) {
-        strip.prepare(tile.spec, tile.offset.x + x, std::min(strip.most, tile.size.width - x));
-        if (tile.streams) {
-            uint8_t row[kStripLanes * kLane + kVectorBytes];
-            eachRowOf<B>(tile, x, strip.index[0], [&](const uint8_t* src, uint8_t* dst) KVRI_INLINE {
-                strip.apply(src, row);
-                streamRow(dst, row, ptrdiff_t(strip.pixels) * B);
-            });
-        } else {
-            eachRowOf<B>(tile, x, strip.index[0], [&](const uint8_t* src, uint8_t* dst) KVRI_INLINE { strip.apply(src, dst); });
+// Strips of destination columns, by tables of a kind; false where such tables do not reach.
+template <int B, class Tables>
+bool byStrips(const ResizeTile& tile) {
+    Tables tables;
+    const int32_t* index = tile.spec.table<int32_t>(tile.spec.x.index) + tile.offset.x;
+    const int width = tile.size.width;
+    constexpr int most = Tables::most / B;
+    int strip = width;  // of about the same width, so that none is short
+    if (width > most) strip = (width + width / most) / (width / most + 1);
+    for (int x = 0; x < width; x += strip) {
+        const int pixels = std::min(strip, width - x);
+        if (!tables.template prepare<B>(index + x, pixels)) return false;
+        const int32_t* rows = tile.spec.table<int32_t>(tile.spec.y.index) + tile.offset.y;
+        const int atATime = tile.streams ? 1 : tables.rowsAtATime();
+        for (int y = 0; y < tile.size.height; y += atATime) {
+            const uint8_t* src[Tables::mostRows];
+            const int n = std::min(atATime, tile.size.height - y);
+            for (int i = 0; i < n; ++i) src[i] = tile.source(rows[y + i], index[x], B);
+            uint8_t* dst = tile.destination(y, x, B);
+            if (tile.streams) {
+                uint8_t row[Tables::most + kVectorBytes];
+                tables.apply(src, 1, row, 0);
+                streamRow(dst, row, ptrdiff_t(pixels) * B);
+            } else {
+                tables.apply(src, n, dst, tile.dstStep);
+            }
         }
     }
+    return true;
 }
 
 // Pixels of a whole lane.
@@ -231,7 +230,10 @@ void resizeNearest(const ResizeTile& tile) {
         if (doubleColumns<B, kVectorBytes>(tile) || doubleColumns<B, kShuffleBytes>(tile) || doubleColumns<B, 16>(tile)) return;
     }
     if constexpr (B == kLane) byLanes(tile);
-    else byStrips<B>(tile);
+#if defined(__AVX512BW__)
+    else if (byStrips<B, WindowTables<64>>(tile) || byStrips<B, WindowTables<32>>(tile)) return;
+#endif
+    else byStrips<B, NearestStrip<B>>(tile);
 }
 
 template <class T, class L>
