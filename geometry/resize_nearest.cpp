@@ -187,13 +187,13 @@ bool byStrips(const ResizeTile& tile) {
         const int pixels = std::min(strip, width - x);
         if (!tables.template prepare<B>(index + x, pixels)) return false;
         const int32_t* rows = tile.spec.table<int32_t>(tile.spec.y.index) + tile.offset.y;
-        const int atATime = tile.streams ? 1 : tables.rowsAtATime();
+        const int atATime = tables.rowsAtATime();
         for (int y = 0; y < tile.size.height; y += atATime) {
             const uint8_t* src[Tables::mostRows];
             const int n = std::min(atATime, tile.size.height - y);
             for (int i = 0; i < n; ++i) src[i] = tile.source(rows[y + i], index[x], B);
             uint8_t* dst = tile.destination(y, x, B);
-            if (tile.streams) {
+            if (tile.streams && Tables::mostRows == 1) {  // several rows at a time gain nothing from it
                 uint8_t row[Tables::most + kVectorBytes];
                 tables.apply(src, 1, row, 0);
                 streamRow(dst, row, ptrdiff_t(pixels) * B);
@@ -222,8 +222,18 @@ void byLanes(const ResizeTile& tile) {
 }
 
 template <int B>
+void keepColumns(const ResizeTile& tile) {
+    const ptrdiff_t n = ptrdiff_t(tile.size.width) * B;
+    eachRowOf<B>(tile, 0, tile.offset.x, [&](const uint8_t* src, uint8_t* dst) KVRI_INLINE {
+        if (tile.streams) streamRow(dst, src, n);
+        else std::memcpy(dst, src, size_t(n));
+    });
+}
+
+template <int B>
 void resizeNearest(const ResizeTile& tile) {
     const ResizeAxis& x = tile.spec.x;
+    if (x.keeps()) return keepColumns<B>(tile);
     if (x.halves()) {
         if (halveColumns<B, kVectorBytes>(tile) || halveColumns<B, kShuffleBytes>(tile) || halveColumns<B, 16>(tile)) return;
     } else if (x.doubles()) {

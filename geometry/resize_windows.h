@@ -98,7 +98,7 @@ public:
         else applyBy<Picks::PairsOfLanes>(src, rows, dst, step);
     }
     // Rows to be done together, so that a vector's tables are loaded once for all.
-    int rowsAtATime() const { return vectors() <= 4 ? mostRows : 4; }
+    int rowsAtATime() const { return vectors() <= 4 ? mostRows : 6; }
 
 private:
     template <Picks picks>
