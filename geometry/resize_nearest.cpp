@@ -93,14 +93,25 @@ private:
     }
 };
 
+// Column `column` of the source rows; none is beyond the image.
+struct SourceColumn {
+    const uint8_t* top;
+    ptrdiff_t step;
+
+    SourceColumn(const ResizeTile& tile, int column, ptrdiff_t pixelBytes)
+        : top(tile.src - tile.origin.y * tile.srcStep + (ptrdiff_t(column) - tile.origin.x) * pixelBytes), step(tile.srcStep) {}
+    const uint8_t* operator[](int row) const { return top + row * step; }
+};
+
 // Calls fill(source row from `column` on, destination row from x on) for every destination row. Writing two that are alike at
 // a time would be slower: rows may lie a power of two apart.
 template <int B, class Fill>
 KVRI_INLINE inline void eachRowOf(const ResizeTile& tile, int x, int column, Fill fill) {
     const int32_t* index = tile.spec.table<int32_t>(tile.spec.y.index) + tile.offset.y;
+    const SourceColumn source(tile, column, B);
     uint8_t* dst = tile.destination(0, x, B);
     for (int y = 0;; dst += tile.dstStep) {
-        fill(tile.source(index[y], column, B), dst);
+        fill(source[index[y]], dst);
         if (++y == tile.size.height) return;
     }
 }
@@ -187,11 +198,12 @@ bool byStrips(const ResizeTile& tile) {
         const int pixels = std::min(strip, width - x);
         if (!tables.template prepare<B>(index + x, pixels)) return false;
         const int32_t* rows = tile.spec.table<int32_t>(tile.spec.y.index) + tile.offset.y;
+        const SourceColumn source(tile, index[x], B);
         const int atATime = tables.rowsAtATime();
         for (int y = 0; y < tile.size.height; y += atATime) {
             const uint8_t* src[Tables::mostRows];
             const int n = std::min(atATime, tile.size.height - y);
-            for (int i = 0; i < n; ++i) src[i] = tile.source(rows[y + i], index[x], B);
+            for (int i = 0; i < n; ++i) src[i] = source[rows[y + i]];
             uint8_t* dst = tile.destination(y, x, B);
             if (tile.streams && Tables::mostRows == 1) {  // several rows at a time gain nothing from it
                 uint8_t row[Tables::most + kVectorBytes];
