@@ -80,7 +80,7 @@ public:
         for (int i = 0; i < vectors(); ++i) reach = std::max(reach, (index[(start(i) + W - 1) / B] - index[start(i) / B] + 1) * B);
         if (reach > 2 * W) return false;
         loads_ = reach > W || behind_ < W ? 2 : 1;
-        Bytes<16> widest{};
+        V widest{};
         for (int i = 0; i < vectors(); ++i) {
             const int pixel = start(i) / B;
             base_[i] = std::max(std::min((index[pixel] - index[0]) * B, behind_ - loads_ * W), 0);
@@ -155,19 +155,26 @@ private:
 
     // Bytes of each lane, counted from an even number of bytes from the window's begin on.
     template <int B>
-    void placeLanes(const int32_t* index, int i, Bytes<16>& widest) {
-        for (int lane = 0; lane < W / 16; ++lane) {
-            const int byte = start(i) + lane * 16, pixel = byte / B, phase = byte % B;
-            // The second pixel may begin before the first byte.
-            const int low = phase == 0 ? 0 : std::min(phase, (index[pixel + 1] - index[pixel]) * B);
-            const int begin = (index[pixel] - index[0]) * B + low - base_[i];
-            const Bytes<16> place = laneOffsets<B>(index + pixel, phase) - uint8_t(low - begin % 2);
-            widest |= place;
-            store(reinterpret_cast<uint8_t*>(&vector_[i].control) + lane * 16, place);
-            store(reinterpret_cast<uint8_t*>(&vector_[i].words) + lane * 16, iota() + uint16_t(begin / 2));
-        }
-        second_[i] = chooseNonZero(vector_[i].control & uint8_t(16));
+    KVRI_INLINE void placeLanes(const int32_t* index, int i, V& widest) {
+        const int vectorStart = start(i), origin = index[0] * B + base_[i];
+        const V control = fromLanes<W>([&](int lane) KVRI_INLINE {
+            const int byte = vectorStart + lane * 16, pixel = byte / B, phase = byte % B;
+            return laneOffsets<B>(index + pixel, phase) - uint8_t(lowOf<B>(index + pixel, phase) - beginOf<B>(index + pixel, phase, origin) % 2);
+        });
+        const V words = fromLanes<W>([&](int lane) KVRI_INLINE {
+            const int byte = vectorStart + lane * 16, pixel = byte / B, phase = byte % B;
+            return (Bytes<16>)(iota() + uint16_t(beginOf<B>(index + pixel, phase, origin) / 2));
+        });
+        widest |= control;
+        vector_[i] = {words, control};
+        second_[i] = chooseNonZero(control & uint8_t(16));
     }
+    // Where the lowest byte of a lane lies that begins `phase` bytes into a pixel: from that pixel on, and in the window. The
+    // second pixel may begin before the first byte.
+    template <int B>
+    static int lowOf(const int32_t* index, int phase) { return phase == 0 ? 0 : std::min(phase, (index[1] - index[0]) * B); }
+    template <int B>
+    static int beginOf(const int32_t* index, int phase, int origin) { return index[0] * B + lowOf<B>(index, phase) - origin; }
     static Vec<uint16_t, 16> iota() { return constant<Vec<uint16_t, 16>>([](int i) { return i % 2 ? 0 : i / 2; }); }
 };
 
