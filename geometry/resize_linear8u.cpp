@@ -233,7 +233,7 @@ void copyRows(const ResizeCall& call) {
 
 template <int C>
 [[gnu::noinline]] void resizeOther(const ResizeTile& tile) {
-    if (tile.spec.doubles() && tile.size.width * C >= kVectorBytes) doubleSize<C>(tile);
+    if (tile.spec.doubles() && LinearDoubler<C>::takes(tile)) doubleSize<C>(tile);
     else resizeStrips<C>(tile);
 }
 
