@@ -6,14 +6,14 @@
 
 namespace kvri {
 
-// Works on a vector's columns for some rows, one below the other: the sums along a source row stay in registers until the
+// Works on a cache line's columns for some rows, one below the other: the sums along a source row stay in registers until the
 // next row's are there. Destination columns 2s and 2s + 1 have their taps in source columns s - 1 to s + 1, so the taps of a
 // lane of destination samples lie in 16 bytes of a row.
 template <int C>
 class LinearDoubler {
     using Words = Vec<uint16_t>;
     using Numbers = Vec<int16_t>;
-    static constexpr int mostVectors = 64, mostPairs = 20;
+    static constexpr int groupSamples = 64, perGroup = groupSamples / kVectorBytes, mostGroups = 64, mostPairs = 20;
 
     struct Vector {
         Bytes<> control[2], weights[2];  // of the first and of the second half of each lane's samples
@@ -22,7 +22,7 @@ class LinearDoubler {
     };
 
     const ResizeTile& tile_;
-    alignas(64) Vector vector_[mostVectors];
+    alignas(64) Vector vector_[mostGroups * perGroup];
     int first_, bytes_, samples_;  // the strip's first source column, the bytes from there, destination samples
 
 public:
@@ -30,11 +30,11 @@ public:
 
     // Whether a tile is wide enough; others are resized in the general way.
     static bool takes(const ResizeTile& tile) {
-        return tile.size.width * C >= kVectorBytes && (kVectorBytes == 64 || tile.size.width / 2 * C >= 16);
+        return tile.size.width * C >= groupSamples;
     }
 
     void run() {
-        constexpr int most = mostVectors * kVectorBytes / C;
+        constexpr int most = mostGroups * groupSamples / C;
         const int width = tile_.size.width;
         int strip = width;  // of about the same width, so that none is short
         if (width > most) strip = (width + width / most) / (width / most + 1);
@@ -46,9 +46,9 @@ public:
     }
 
 private:
-    int vectors() const { return (samples_ + kVectorBytes - 1) / kVectorBytes; }
-    // A vector's first sample: the last one ends with the strip, over what the one before it has.
-    int start(int vector) const { return std::min(vector * kVectorBytes, samples_ - kVectorBytes); }
+    int groups() const { return (samples_ + groupSamples - 1) / groupSamples; }
+    // A group's first sample: the last group ends with the strip, over what the one before it has.
+    int start(int group) const { return std::min(group * groupSamples, samples_ - groupSamples); }
 
     static int leftOf(int position) { return (position + 1) / 2 - 1; }
 
@@ -57,7 +57,8 @@ private:
         samples_ = width * C;
         first_ = tile_.columns(leftOf(position));
         bytes_ = (tile_.columns(leftOf(position + width - 1) + 1) - first_ + 1) * C;
-        for (int i = 0; i < vectors(); ++i) place(vector_[i], position, start(i));
+        for (int group = 0; group < groups(); ++group)
+            for (int i = 0; i < perGroup; ++i) place(vector_[group * perGroup + i], position, start(group) + i * kVectorBytes);
     }
 
     // Sample i of one half of the lanes, counted from the begin of a pixel of which the vector leaves out `phase` samples.
@@ -117,10 +118,10 @@ private:
         bool streamed;
     };
 
-    // Many rows at a time only where few are in the same set of the first-level cache, and where they need not go far.
+    // Many rows at a time only where they are not all in the same set of the first-level cache, and where they are near.
     int pairsAtATime() const {
-        const bool crowded = (tile_.srcStep | tile_.dstStep) % 2048 == 0;
-        return crowded || tile_.streams ? 4 : mostPairs;
+        const bool crowded = tile_.dstStep % 2048 == 0, near = ptrdiff_t(tile_.size.width) * tile_.size.height * C <= 0x80000;
+        return near && !crowded ? mostPairs : 4;
     }
 
     // Rows side by side are streamed later than rows one by one: where three halves of the destination exceed the cache.
@@ -138,47 +139,58 @@ private:
             const int pairs = std::min(atATime, end / 2 - i + 1), firstRow = 2 * i - 1 - begin;
             for (int k = 0; k <= pairs; ++k) row[k] = top + tile_.rows(i - 1 + k) * tile_.srcStep;
             const Rows to{tile_.destination(firstRow, x, C), tile_.dstStep, streamed};
-            for (int v = 0; v < vectors(); ++v) {
-                if (bytes_ >= kVectorBytes) band(v, row, pairs, firstRow, to, [](const uint8_t* p, ptrdiff_t) KVRI_INLINE { return load<Bytes<>>(p); });
-                else band(v, row, pairs, firstRow, to, [](const uint8_t* p, ptrdiff_t n) KVRI_INLINE { return loadPart<Bytes<>>(p, n); });
+            for (int group = 0; group < groups(); ++group) {
+                if (bytes_ >= kVectorBytes) band(group, row, pairs, firstRow, to, [](const uint8_t* p, ptrdiff_t) KVRI_INLINE { return load<Bytes<>>(p); });
+                else band(group, row, pairs, firstRow, to, [](const uint8_t* p, ptrdiff_t n) KVRI_INLINE { return loadPart<Bytes<>>(p, n); });
             }
         }
     }
 
     // firstRow: that of the first pair's upper result in the tile, or -1.
     template <class Load>
-    KVRI_INLINE void band(int v, const uint8_t* const* row, int pairs, int firstRow, const Rows& rows, Load loadWindow) const {
-        const ptrdiff_t base = vector_[v].base, step = rows.step;
-        const bool streamed = rows.streamed && start(v) % kVectorBytes == 0;
+    KVRI_INLINE void band(int group, const uint8_t* const* row, int pairs, int firstRow, const Rows& rows, Load loadWindow) const {
+        const Vector* tables = vector_ + group * perGroup;
+        [[maybe_unused]] Vector held;  // the tables, where there are registers for them
+        if constexpr (perGroup == 1) {
+            unroll<2>([&](auto h) KVRI_INLINE { held.control[h] = loadedOnce(tables->control[h]), held.weights[h] = loadedOnce(tables->weights[h]); });
+            held.words = loadedOnce(tables->words), held.base = tables->base;
+        }
+        const ptrdiff_t step = rows.step;
+        const bool streamed = rows.streamed && start(group) % kVectorBytes == 0;
         const int height = tile_.size.height;
-        const Bytes<> words = loadedOnce(vector_[v].words);
-        Bytes<> control[2], weights[2];
-        unroll<2>([&](auto h) KVRI_INLINE { control[h] = loadedOnce(vector_[v].control[h]), weights[h] = loadedOnce(vector_[v].weights[h]); });
-        const auto sumsOf = [&](const uint8_t* p, Words (&sums)[2]) KVRI_INLINE {
-            Bytes<> taps;
-            if constexpr (kVectorBytes == 64) taps = lanesOf(loadWindow(p + base, bytes_ - base), words);
-            else taps = fromLanes<kVectorBytes>([&](int l) KVRI_INLINE { return load<Bytes<16>>(p + base + ((Numbers)words)[8 * l]); });
-            unroll<2>([&](auto h) KVRI_INLINE {  // with 2 more: what a pixel's sum of 12 bits is rounded with comes to 8
-                sums[h] = (Words)multiplyPairsOfBytes(shuffle(taps, control[h]), weights[h]) + 2;
-            });
+        struct Sums {
+            Words half[2];
         };
-        uint8_t* to = rows.first + start(v);
-        const auto put = [&](uint8_t* p, const Words (&near)[2], const Words (&both)[2]) KVRI_INLINE {
-            const auto half = [&](int h) KVRI_INLINE { return (Numbers)((near[h] + near[h] + both[h]) >> 4); };
+        const auto sumsOf = [&](const uint8_t* p, auto i) KVRI_INLINE {
+            const Vector& v = perGroup == 1 ? held : tables[i];
+            Bytes<> taps;
+            if constexpr (kVectorBytes == 64) taps = lanesOf(loadWindow(p + v.base, bytes_ - v.base), v.words);
+            else taps = fromLanes<kVectorBytes>([&](int l) KVRI_INLINE { return load<Bytes<16>>(p + v.base + reinterpret_cast<const int16_t*>(&v.words)[8 * l]); });
+            Sums sums;
+            unroll<2>([&](auto h) KVRI_INLINE {  // with 2 more: what a pixel's sum of 12 bits is rounded with comes to 8
+                sums.half[h] = (Words)multiplyPairsOfBytes(shuffle(taps, v.control[h]), v.weights[h]) + 2;
+            });
+            return sums;
+        };
+        const auto put = [&](uint8_t* p, const Sums& near, const Sums& both) KVRI_INLINE {
+            const auto half = [&](int h) KVRI_INLINE { return (Numbers)((near.half[h] + near.half[h] + both.half[h]) >> 4); };
             const Bytes<> result = narrow<uint8_t>(half(0), half(1));
             if (streamed) stream(p, result);
             else store(p, result);
         };
-        Words above[2];
-        sumsOf(row[0], above);
+        Sums above[perGroup];
+        unroll<perGroup>([&](auto i) KVRI_INLINE { above[i] = sumsOf(row[0], i); });
+        uint8_t* to = rows.first + start(group);
         for (int k = 0; k < pairs; ++k, to += 2 * step) {
-            Words below[2], both[2];
-            sumsOf(row[k + 1], below);
-            unroll<2>([&](auto h) KVRI_INLINE { both[h] = above[h] + below[h]; });
             const int at = firstRow + 2 * k;
-            if (at >= 0) put(to, above, both);
-            if (at + 1 < height) put(to + step, below, both);
-            unroll<2>([&](auto h) KVRI_INLINE { above[h] = below[h]; });
+            Sums below[perGroup], both[perGroup];
+            unroll<perGroup>([&](auto i) KVRI_INLINE {
+                below[i] = sumsOf(row[k + 1], i);
+                unroll<2>([&](auto h) KVRI_INLINE { both[i].half[h] = above[i].half[h] + below[i].half[h]; });
+            });
+            if (at >= 0) unroll<perGroup>([&](auto i) KVRI_INLINE { put(to + i * kVectorBytes, above[i], both[i]); });
+            if (at + 1 < height) unroll<perGroup>([&](auto i) KVRI_INLINE { put(to + step + i * kVectorBytes, below[i], both[i]); });
+            unroll<perGroup>([&](auto i) KVRI_INLINE { above[i] = below[i]; });
         }
     }
 
