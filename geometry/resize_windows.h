@@ -159,11 +159,12 @@ private:
         const int vectorStart = start(i), origin = index[0] * B + base_[i];
         const V control = fromLanes<W>([&](int lane) KVRI_INLINE {
             const int byte = vectorStart + lane * 16, pixel = byte / B, phase = byte % B;
-            return laneOffsets<B>(index + pixel, phase) - uint8_t(lowOf<B>(index + pixel, phase) - beginOf<B>(index + pixel, phase, origin) % 2);
+            const int less = lowOf<B>(index + pixel, phase) - beginOf<B>(index + pixel, phase, origin) % 2;
+            return laneOffsets<B>(index + pixel, phase) - splat<Bytes<16>>(uint8_t(less));
         });
         const V words = fromLanes<W>([&](int lane) KVRI_INLINE {
             const int byte = vectorStart + lane * 16, pixel = byte / B, phase = byte % B;
-            return (Bytes<16>)(iota() + uint16_t(beginOf<B>(index + pixel, phase, origin) / 2));
+            return (Bytes<16>)(iota() + splat<Vec<uint16_t, 16>>(uint16_t(beginOf<B>(index + pixel, phase, origin) / 2)));
         });
         widest |= control;
         vector_[i] = {words, control};
