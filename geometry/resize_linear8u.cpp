@@ -70,6 +70,7 @@ KVRI_INLINE inline auto roundedBytes(const Vec<int32_t> (&v)[kTapVectors]) {
 #endif
 }
 
+// Rough: as the tables are. Sums of a row stay in registers for as long as rows have the same source rows.
 template <class Gather, bool Rough>
 void sumRows(const TapTables& taps, const RowPairs& pairs, uint8_t* dst, ptrdiff_t step) {
     for (int group = 0; group < taps.groups(); ++group) {
@@ -99,8 +100,9 @@ void sumRows(const TapTables& taps, const RowPairs& pairs, uint8_t* dst, ptrdiff
     }
 }
 
-constexpr int kTurnRows = 256;
+constexpr int kTurnRows = 256;  // pages of so many rows at a time
 
+// Strips of destination columns, by tables.
 template <int C>
 class LinearResizer {
     static constexpr int most = TapTables::mostGroups * kTapSamples / C;  // pixels of a strip
@@ -108,8 +110,8 @@ class LinearResizer {
     const ResizeTile& tile_;
     const ResizeSpec& spec_ = tile_.spec;
     TapTables taps_;
-    int first_;     // the strip's first source column
-    bool tapByTap_;  // pixels are copied in pairs, and these are the source columns
+    int first_;      // the strip's first source column
+    bool tapByTap_;  // taps are copied side by side, and what is copied is the source
     int32_t index_[most + kTapSamples + 4], weight_[kTapSamples + 4];
     int32_t left_[most], right_[most];
     uint8_t pixels_[2][2 * C * most + 64];

@@ -1,6 +1,6 @@
-// geometry/resize_nearest.cpp: Nearest. Pixels are moved as bytes: half and double rows by whole vectors; else a lane of 16
-// destination bytes is shuffled together from 16 or 32 source bytes where its pixels lie that close, and copied pixel by pixel
-// where not.
+// geometry/resize_nearest.cpp: Nearest. Pixels are moved as bytes: half and double rows by whole vectors; else vectors are
+// picked from windows of the source row, where the build can, or a lane of 16 destination bytes is shuffled together from 16 or
+// 32 source bytes where its pixels lie that close, and copied pixel by pixel where not.
 #include <cstring>
 
 #include "core/dispatch.h"
@@ -24,31 +24,31 @@ class NearestStrip {
     alignas(64) Lane place_[kStripLanes];  // of each destination byte, from the lane's base on
     int32_t base_[kStripLanes];
     int lanes_, reach_;  // bytes that a lane's shuffle may reach; 0: pixels are copied
-    const int32_t* index;  // source columns
-    int pixels;
+    const int32_t* index_;   // source columns
+    int pixels_;
 
 public:
     static constexpr int most = kStripLanes * kLane;  // destination bytes
 
     template <int>
     bool prepare(const int32_t* columns, int count) {
-        index = columns;
-        pixels = count;
+        index_ = columns;
+        pixels_ = count;
         reach_ = 0;
         lanes_ = (count * B + kLane - 1) / kLane;
         if (count * B < kLane) return true;
         Lane widest{};
         for (int i = 0; i < lanes_; ++i) {
             const int byte = start(i), pixel = byte / B, phase = byte % B;
-            const Lane place = laneOffsets<B>(index + pixel, phase);
+            const Lane place = laneOffsets<B>(index_ + pixel, phase);
             // The second pixel may begin before the first byte.
-            const int low = phase == 0 ? 0 : std::min(phase, (index[pixel + 1] - index[pixel]) * B);
-            base_[i] = (index[pixel] - index[0]) * B + low;
+            const int low = phase == 0 ? 0 : std::min(phase, (index_[pixel + 1] - index_[pixel]) * B);
+            base_[i] = (index_[pixel] - index_[0]) * B + low;
             place_[i] = place - uint8_t(low);
             widest |= place_[i];
         }
         const int reach = allZero(widest & uint8_t(-kLane)) ? kLane : allZero(widest & uint8_t(-2 * kLane)) ? 2 * kLane : 0;
-        const int behind = (index[count - 1] - index[0] + 1) * B - reach;
+        const int behind = (index_[count - 1] - index_[0] + 1) * B - reach;
         if (reach == 0 || behind < 0) return true;
         reach_ = reach;
         for (int i = lanes_ - 1; i >= 0 && base_[i] > behind; --i) {
@@ -66,11 +66,11 @@ public:
         const uint8_t* src = rows[0];
         if (reach_ == kLane) return shuffleLanes<1>(src, dst);
         if (reach_ != 0) return shuffleLanes<2>(src, dst);
-        for (int i = 0, first = index[0]; i < pixels; ++i) std::memcpy(dst + i * B, src + ptrdiff_t(index[i] - first) * B, B);
+        for (int i = 0, first = index_[0]; i < pixels_; ++i) std::memcpy(dst + i * B, src + ptrdiff_t(index_[i] - first) * B, B);
     }
 
 private:
-    int start(int lane) const { return std::min(lane * kLane, pixels * B - kLane); }
+    int start(int lane) const { return std::min(lane * kLane, pixels_ * B - kLane); }
 
     template <int Loads>
     void shuffleLanes(const uint8_t* src, uint8_t* dst) const {
