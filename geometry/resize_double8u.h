@@ -6,200 +6,172 @@
 
 namespace kvri {
 
-// Works on a cache line's columns for some rows, one below the other: the sums along a source row stay in registers until the
-// next row's are there. Destination columns 2s and 2s + 1 have their taps in source columns s - 1 to s + 1, so the taps of a
-// lane of destination samples lie in 16 bytes of a row.
+// A destination row is worked on in strips that begin with an even column. Destination columns 2s and 2s + 1 have their taps
+// in source columns s - 1 to s + 1: 16 destination samples in 16 bytes of a source row, 8 bytes on from those before them.
 template <int C>
 class LinearDoubler {
     using Words = Vec<uint16_t>;
-    using Numbers = Vec<int16_t>;
-    static constexpr int groupSamples = 64, perGroup = groupSamples / kVectorBytes, mostGroups = 64, mostPairs = 20;
-
-    struct Vector {
-        Bytes<> control[2], weights[2];  // of the first and of the second half of each lane's samples
-        Bytes<> words;                   // of a window of the row, for each lane; without windows, where lanes begin, in two bytes
-        int32_t base;                    // where the window begins
-    };
+    static constexpr int period = C == 3 ? 3 : 1, lanes = kVectorBytes / 16;
+    static constexpr int most = 4096 / C / 2 * 2;  // columns of a strip
+    static constexpr int stripSamples = 5120;      // with what whole periods have more; two rows of sums lie half a page more than pages apart
+    static constexpr int sourceBytes = stripSamples / 2 + kVectorBytes, mostAhead = 8;
 
     const ResizeTile& tile_;
-    alignas(64) Vector vector_[mostGroups * perGroup];
-    int first_, bytes_, samples_;  // the strip's first source column, the bytes from there, destination samples
+    alignas(64) uint8_t source_[2 * sourceBytes];
+    alignas(64) uint16_t sums_[2][stripSamples];  // per vector of destination samples: the first and the second half of each lane
+    alignas(64) uint8_t result_[stripSamples];
 
 public:
     explicit LinearDoubler(const ResizeTile& tile) : tile_(tile) {}
 
-    // Whether a tile is wide enough; others are resized in the general way.
-    static bool takes(const ResizeTile& tile) {
-        return tile.size.width * C >= groupSamples;
-    }
-
     void run() {
-        constexpr int most = mostGroups * groupSamples / C;
-        const int width = tile_.size.width;
-        int strip = width;  // of about the same width, so that none is short
-        if (width > most) strip = (width + width / most) / (width / most + 1);
-        for (int x = 0; x < width; x += strip) {
-            prepare(x, std::min(strip, width - x));
-            const uint8_t* top = tile_.src - tile_.origin.y * tile_.srcStep + (ptrdiff_t(first_) - tile_.origin.x) * C;
-            bands(top, x);
-        }
+        const int begin = tile_.offset.x / 2 * 2, end = tile_.offset.x + tile_.size.width;
+        for (int x = begin; x < end; x += most) strip(x, std::min(end, x + most));
     }
 
 private:
-    int groups() const { return (samples_ + groupSamples - 1) / groupSamples; }
-    // A group's first sample: the last group ends with the strip, over what the one before it has.
-    int start(int group) const { return std::min(group * groupSamples, samples_ - groupSamples); }
+    // Where a strip's source columns come from: `columns` of them from `low` on, the first and the last perhaps repeated.
+    struct SourceColumns {
+        const uint8_t* top;  // column `low` of row 0
+        ptrdiff_t bytes;
+        bool before, behind;
 
-    static int leftOf(int position) { return (position + 1) / 2 - 1; }
-
-    void prepare(int x, int width) {
-        const int position = tile_.offset.x + x;
-        samples_ = width * C;
-        first_ = tile_.columns(leftOf(position));
-        bytes_ = (tile_.columns(leftOf(position + width - 1) + 1) - first_ + 1) * C;
-        for (int group = 0; group < groups(); ++group)
-            for (int i = 0; i < perGroup; ++i) place(vector_[group * perGroup + i], position, start(group) + i * kVectorBytes);
-    }
-
-    // Sample i of one half of the lanes, counted from the begin of a pixel of which the vector leaves out `phase` samples.
-    struct Half {
-        alignas(64) uint16_t pixel[kVectorBytes / 2], channel[kVectorBytes / 2];
-    };
-    static constexpr auto kHalves = [] {
-        std::array<std::array<Half, 2>, C> halves{};
-        for (int phase = 0; phase < C; ++phase)
-            for (int half = 0; half < 2; ++half)
-                for (int i = 0; i < kVectorBytes / 2; ++i) {
-                    const int sample = phase + i / 8 * 16 + half * 8 + i % 8;
-                    halves[phase][half].pixel[i] = uint16_t(sample / C), halves[phase][half].channel[i] = uint16_t(sample % C);
-                }
-        return halves;
-    }();
-
-    static Numbers smallestOfLane(Numbers v) {
-        v = smaller(v, pick(v, [](int i) { return i ^ 1; }));
-        v = smaller(v, pick(v, [](int i) { return i ^ 2; }));
-        return smaller(v, pick(v, [](int i) { return i ^ 4; }));
-    }
-
-    KVRI_INLINE void place(Vector& to, int position, int sample) {
-        const int pixel = position + sample / C, before = leftOf(pixel);  // columns count from here
-        const auto number = [](int n) { return splat<Numbers>(int16_t(std::clamp(n, -4096, 4096))); };
-        const Numbers low = number(first_ - before), high = number(first_ + bytes_ / C - 1 - before);
-        Numbers left[2], right[2];
-        unroll<2>([&](auto h) KVRI_INLINE {
-            const Half& half = kHalves[sample % C][h];
-            const Numbers odd = load<Numbers>(half.pixel) + int16_t(pixel % 2), column = (odd + 1) >> 1;
-            const auto byteOf = [&](Numbers column) KVRI_INLINE {
-                return clamp(column - int16_t((pixel % 2 + 1) / 2), low, high) * int16_t(C) + load<Numbers>(half.channel);
-            };
-            left[h] = byteOf(column), right[h] = byteOf(column + 1);
-            to.weights[h] = (Bytes<>)(splat<Numbers>(0x0301) ^ ((odd & 1) * int16_t(0x0202)));
-        });
-        const Numbers least = smallestOfLane(smaller(left[0], left[1]));
-        Numbers begin;
-        const int from = (before - first_) * C;  // where columns count from, in bytes of the row
-        if constexpr (kVectorBytes == 64) {
-            to.base = std::max(std::min(from + least[0], bytes_ - kVectorBytes), 0);
-            const Numbers word = (least + int16_t(from - to.base)) >> 1;
-            begin = word * 2 - int16_t(from - to.base);
-            to.words = (Bytes<>)(word + constant<Numbers>([](int i) { return i % 2 ? 0 : i % 16 / 2; }));
-        } else {
-            begin = smaller(least, splat<Numbers>(int16_t(std::min(bytes_ - 16 - from, 4096))));
-            to.base = from;
-            to.words = (Bytes<>)begin;
+        SourceColumns(const ResizeTile& tile, int first, int last) {
+            const int low = tile.columns(first), high = tile.columns(last);
+            top = tile.src - tile.origin.y * tile.srcStep + (ptrdiff_t(low) - tile.origin.x) * C;
+            bytes = ptrdiff_t(high - low + 1) * C;
+            before = low > first, behind = last > high;
         }
-        unroll<2>([&](auto h) KVRI_INLINE { to.control[h] = (Bytes<>)((left[h] - begin) | (right[h] - begin) << 8); });
-    }
 
-    struct Rows {
-        uint8_t* first;
-        ptrdiff_t step;
-        bool streamed;
+        void copy(const uint8_t* from, uint8_t* to) const {
+            if (before) std::memcpy(to, from, C), to += C;
+            ptrdiff_t i = 0;
+            for (; bytes - i >= kVectorBytes; i += kVectorBytes) store(to + i, load<Bytes<>>(from + i));
+            if (i < bytes) store(to + i, loadPart<Bytes<>>(from + i, bytes - i));
+            if (behind) std::memcpy(to + bytes, from + bytes - C, C);
+        }
     };
 
-    // Many rows at a time only where they are not all in the same set of the first-level cache, and where they are near.
-    int pairsAtATime() const {
-        const bool crowded = tile_.dstStep % 2048 == 0, near = ptrdiff_t(tile_.size.width) * tile_.size.height * C <= 0x80000;
-        return near && !crowded ? mostPairs : 4;
-    }
-
-    // Rows side by side are streamed later than rows one by one: where three halves of the destination exceed the cache.
-    bool streams(const uint8_t* dst) const {
-        if (!tile_.streams || !exceedsCache({tile_.size.width, tile_.size.height + tile_.size.height / 2}, C)) return false;
-        return (reinterpret_cast<uintptr_t>(dst) | uintptr_t(tile_.dstStep)) % kVectorBytes == 0;
-    }
-
-    void bands(const uint8_t* top, int x) const {
-        const int begin = tile_.offset.y, end = begin + tile_.size.height, atATime = pairsAtATime();
-        const bool streamed = streams(tile_.destination(0, x, C));
+    // Destination columns x to end - 1, x even; the first may lie before the tile.
+    void strip(int x, int end) {
+        const int samples = (end - x) * C, before = std::max(tile_.offset.x - x, 0) * C, height = tile_.size.height;
+        const int begin = tile_.offset.y, lastRow = tile_.rows((begin + height) / 2);
+        const SourceColumns columns(tile_, x / 2 - 1, end / 2);
+        // A row is copied long before it is read, in vectors at other places than it was written in: some rows of short ones.
+        const bool few = mostAhead * (samples / 2 + 3 * kVectorBytes) <= int(sizeof source_);
+        const int ahead = few ? mostAhead : 2, stride = int(sizeof source_) / ahead / 64 * 64;
+        const auto sourceRow = [&](int row) { return source_ + (row & (ahead - 1)) * stride; };
+        int copied = tile_.rows((begin + 1) / 2 - 1) - 1, summed = copied;
+        const auto copyNext = [&]() KVRI_INLINE {
+            if (copied == lastRow) return;
+            ++copied;
+            columns.copy(columns.top + copied * tile_.srcStep, sourceRow(copied));
+        };
+        const int column = x - tile_.offset.x + before / C;
+        const bool aligned = ((reinterpret_cast<uintptr_t>(tile_.destination(0, column, C)) | uintptr_t(tile_.dstStep)) & (kVectorBytes - 1)) == 0;
         // Source rows i - 1 and i give destination rows 2i - 1 and 2i.
-        for (int i = (begin + 1) / 2; 2 * i - 1 < end; i += atATime) {
-            const uint8_t* row[mostPairs + 1];
-            const int pairs = std::min(atATime, end / 2 - i + 1), firstRow = 2 * i - 1 - begin;
-            for (int k = 0; k <= pairs; ++k) row[k] = top + tile_.rows(i - 1 + k) * tile_.srcStep;
-            const Rows to{tile_.destination(firstRow, x, C), tile_.dstStep, streamed};
-            for (int group = 0; group < groups(); ++group) {
-                if (bytes_ >= kVectorBytes) band(group, row, pairs, firstRow, to, [](const uint8_t* p, ptrdiff_t) KVRI_INLINE { return load<Bytes<>>(p); });
-                else band(group, row, pairs, firstRow, to, [](const uint8_t* p, ptrdiff_t n) KVRI_INLINE { return loadPart<Bytes<>>(p, n); });
+        const auto walk = [&](auto streamed) KVRI_INLINE {
+            for (int i = (begin + 1) / 2; i <= (begin + height) / 2; ++i) {
+                const int lower = tile_.rows(i), firstRow = std::max(2 * i - 1 - begin, 0), rows = std::min(2 * i - begin, height - 1) - firstRow + 1;
+                uint16_t *above = sums_[tile_.rows(i - 1) & 1], *below = sums_[lower & 1];
+                uint8_t* dst = tile_.destination(firstRow, column, C);
+                const bool isNew = lower != summed;
+                if (isNew && rows == 2 && before == 0) {
+                    sumAndCombine<streamed>(sourceRow(lower), above, below, samples, dst, dst + tile_.dstStep);
+                } else {
+                    if (isNew) sumAlong(sourceRow(lower), samples, below);
+                    for (int row = firstRow; row < firstRow + rows; ++row, dst += tile_.dstStep) {
+                        if ((begin + row) % 2 == 0) combine(below, above, samples, result_);
+                        else combine(above, below, samples, result_);
+                        std::memcpy(dst, result_ + before, size_t(samples - before));
+                    }
+                }
+                if (isNew) copyNext();
+                summed = lower;
             }
+        };
+        for (int i = 0; i < ahead; ++i) copyNext();
+        ++summed;
+        sumAlong(sourceRow(summed), samples, sums_[summed & 1]);
+        if (tile_.streams && aligned) walk(std::true_type{});
+        else walk(std::false_type{});
+    }
+
+    // Byte i of what is multiplied for one half of the lanes of a vector, the `Vector`th of a period: a tap of a sample.
+    template <int Vector, int Half>
+    struct Tap {
+        static constexpr int sample(int i) { return Vector * kVectorBytes + i / 16 * 16 + Half * 8 + i % 16 / 2; }
+        // Where it lies in its lane of the source.
+        static constexpr int place(int i) {
+            const int pixel = sample(i) / C;
+            return ((pixel + 1) / 2 + i % 2) * C + sample(i) % C - sample(i) / 16 * 8;
+        }
+        static constexpr int weight(int i) { return (sample(i) / C + i) % 2 == 0 ? 1 : 3; }
+    };
+
+    // The sums, each with 2 more: what a pixel's sum of 12 bits is rounded with comes to 8.
+    template <int Vector, int Half>
+    static Words sumTaps(Bytes<> source) {
+        using T = Tap<Vector, Half>;
+        const auto taps = shuffle(source, constant<Bytes<>>([](int i) { return T::place(i); }));
+        return (Words)multiplyPairsOfBytes(taps, constant<Bytes<>>([](int i) { return T::weight(i); })) + 2;
+    }
+
+    // The source's bytes for vector `at` of destination samples, lane by lane.
+    static Bytes<> lanesAt(const uint8_t* row, int at) {
+        const Bytes<> source = load<Bytes<>>(row + at / 2);
+        if constexpr (lanes == 1) return source;
+        else return permute4(source, [](int i) { return i / 4 * 2 + i % 4; });
+    }
+
+    // Calls step(vector of samples, their sums) for whole periods.
+    template <class Step>
+    KVRI_INLINE static void eachSum(const uint8_t* row, int samples, Step step) {
+        for (int i = 0; i < samples; i += period * kVectorBytes)
+            unroll<period>([&](auto vector) KVRI_INLINE {
+                const int at = i + vector * kVectorBytes;
+                const Bytes<> source = lanesAt(row, at);
+                step(at, sumTaps<vector, 0>(source), sumTaps<vector, 1>(source));
+            });
+    }
+
+    static void sumAlong(const uint8_t* row, int samples, uint16_t* sums) {
+        eachSum(row, samples, [&](int at, Words first, Words second) KVRI_INLINE {
+            store(sums + at, first);
+            store(sums + at + kVectorBytes / 2, second);
+        });
+    }
+
+    // What is 3, but not to the compiler: shifts in place of products would be too many.
+    static Words three() { return loadedOnce(splat<Words>(3)); }
+    static Vec<int16_t> weighted(Words near, Words far, Words three) { return (Vec<int16_t>)((near * three + far) >> 4); }
+
+    static void combine(const uint16_t* near, const uint16_t* far, int samples, uint8_t* dst) {
+        const Words three = LinearDoubler::three();
+        for (int i = 0; i < samples; i += kVectorBytes) {
+            const auto half = [&](int at) KVRI_INLINE { return weighted(load<Words>(near + at), load<Words>(far + at), three); };
+            store(dst + i, narrow<uint8_t>(half(i), half(i + kVectorBytes / 2)));
         }
     }
 
-    // firstRow: that of the first pair's upper result in the tile, or -1.
-    template <class Load>
-    KVRI_INLINE void band(int group, const uint8_t* const* row, int pairs, int firstRow, const Rows& rows, Load loadWindow) const {
-        const Vector* tables = vector_ + group * perGroup;
-        [[maybe_unused]] Vector held;  // the tables, where there are registers for them
-        if constexpr (perGroup == 1) {
-            unroll<2>([&](auto h) KVRI_INLINE { held.control[h] = loadedOnce(tables->control[h]), held.weights[h] = loadedOnce(tables->weights[h]); });
-            held.words = loadedOnce(tables->words), held.base = tables->base;
-        }
-        const ptrdiff_t step = rows.step;
-        const bool streamed = rows.streamed && start(group) % kVectorBytes == 0;
-        const int height = tile_.size.height;
-        struct Sums {
-            Words half[2];
-        };
-        const auto sumsOf = [&](const uint8_t* p, auto i) KVRI_INLINE {
-            const Vector& v = perGroup == 1 ? held : tables[i];
-            Bytes<> taps;
-            if constexpr (kVectorBytes == 64) taps = lanesOf(loadWindow(p + v.base, bytes_ - v.base), v.words);
-            else taps = fromLanes<kVectorBytes>([&](int l) KVRI_INLINE { return load<Bytes<16>>(p + v.base + reinterpret_cast<const int16_t*>(&v.words)[8 * l]); });
-            Sums sums;
-            unroll<2>([&](auto h) KVRI_INLINE {  // with 2 more: what a pixel's sum of 12 bits is rounded with comes to 8
-                sums.half[h] = (Words)multiplyPairsOfBytes(shuffle(taps, v.control[h]), v.weights[h]) + 2;
-            });
-            return sums;
-        };
-        const auto put = [&](uint8_t* p, const Sums& near, const Sums& both) KVRI_INLINE {
-            const auto half = [&](int h) KVRI_INLINE { return (Numbers)((near.half[h] + near.half[h] + both.half[h]) >> 4); };
-            const Bytes<> result = narrow<uint8_t>(half(0), half(1));
-            if (streamed) stream(p, result);
-            else store(p, result);
-        };
-        Sums above[perGroup];
-        unroll<perGroup>([&](auto i) KVRI_INLINE { above[i] = sumsOf(row[0], i); });
-        uint8_t* to = rows.first + start(group);
-        for (int k = 0; k < pairs; ++k, to += 2 * step) {
-            const int at = firstRow + 2 * k;
-            Sums below[perGroup], both[perGroup];
-            unroll<perGroup>([&](auto i) KVRI_INLINE {
-                below[i] = sumsOf(row[k + 1], i);
-                unroll<2>([&](auto h) KVRI_INLINE { both[i].half[h] = above[i].half[h] + below[i].half[h]; });
-            });
-            if (at >= 0) unroll<perGroup>([&](auto i) KVRI_INLINE { put(to + i * kVectorBytes, above[i], both[i]); });
-            if (at + 1 < height) unroll<perGroup>([&](auto i) KVRI_INLINE { put(to + step + i * kVectorBytes, below[i], both[i]); });
-            unroll<perGroup>([&](auto i) KVRI_INLINE { above[i] = below[i]; });
-        }
+    // Both rows between `above` and the sums of a row, which are kept at `below`.
+    template <bool Streamed>
+    static void sumAndCombine(const uint8_t* row, const uint16_t* above, uint16_t* below, int samples, uint8_t* upper, uint8_t* lower) {
+        const Words three = LinearDoubler::three();
+        eachSum(row, samples, [&](int at, Words first, Words second) KVRI_INLINE {
+            store(below + at, first);
+            store(below + at + kVectorBytes / 2, second);
+            const Words a = loadedOnce(load<Words>(above + at)), b = loadedOnce(load<Words>(above + at + kVectorBytes / 2));
+            put<Streamed>(upper + at, narrow<uint8_t>(weighted(a, first, three), weighted(b, second, three)), samples - at);
+            put<Streamed>(lower + at, narrow<uint8_t>(weighted(first, a, three), weighted(second, b, three)), samples - at);
+        });
     }
 
-    static Bytes<> lanesOf([[maybe_unused]] Bytes<> window, [[maybe_unused]] Bytes<> words) {
-#if defined(__AVX512BW__)
-        return (Bytes<>)_mm512_permutexvar_epi16((__m512i)words, (__m512i)window);
-#else
-        return window;
-#endif
+    template <bool Streamed>
+    static void put(uint8_t* dst, Bytes<> v, int samples) {
+        if (samples < kVectorBytes) storePart(dst, v, samples);
+        else if constexpr (Streamed) stream(dst, v);
+        else store(dst, v);
     }
 };
 

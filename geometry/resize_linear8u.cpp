@@ -9,6 +9,7 @@
 #include "core/layout.h"
 #include "geometry/resize_apply.h"
 #include "geometry/resize_double8u.h"
+#include "geometry/resize_double8u_columns.h"
 #include "geometry/resize_halve.h"
 #include "geometry/resize_taps8u.h"
 
@@ -216,9 +217,9 @@ private:
 };
 
 // Functions of their own, so that halving needs no large frame.
-template <int C>
+template <class Doubler>
 [[gnu::noinline]] void doubleSize(const ResizeTile& tile) {
-    LinearDoubler<C>(tile).run();
+    Doubler(tile).run();
 }
 
 template <int C>
@@ -235,8 +236,9 @@ void copyRows(const ResizeCall& call) {
 
 template <int C>
 [[gnu::noinline]] void resizeOther(const ResizeTile& tile) {
-    if (tile.spec.doubles() && LinearDoubler<C>::takes(tile)) doubleSize<C>(tile);
-    else resizeStrips<C>(tile);
+    if (!tile.spec.doubles() || tile.size.width * C < kVectorBytes) resizeStrips<C>(tile);
+    else if (ColumnDoubler<C>::takes(tile)) doubleSize<ColumnDoubler<C>>(tile);
+    else doubleSize<LinearDoubler<C>>(tile);
 }
 
 template <class L>
