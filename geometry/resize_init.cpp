@@ -235,6 +235,7 @@ ResizeAxis axis(int src, int dst) {
     ResizeAxis a{};
     a.source = src, a.destination = a.period = dst;
     a.reducedSource = src / g, a.reducedDestination = dst / g;
+    a.quotient = double(a.reducedSource) / a.reducedDestination;
     return a;
 }
 

@@ -1,6 +1,6 @@
-// geometry/resize_nearest.cpp: Nearest. Pixels are moved as bytes: half and double rows by whole vectors; else a lane of 16
-// destination bytes is shuffled together from 16 or 32 source bytes where its pixels lie that close, and copied pixel by pixel
-// where not.
+// geometry/resize_nearest.cpp: Nearest. Pixels are moved as bytes: half and double rows by whole vectors; else vectors are
+// picked from windows of the source row, where the build can, or a lane of 16 destination bytes is shuffled together from 16 or
+// 32 source bytes where its pixels lie that close, and copied pixel by pixel where not.
 #include <cstring>
 
 #include "core/dispatch.h"
@@ -8,6 +8,7 @@
 #include "core/layout.h"
 #include "geometry/resize_apply.h"
 #include "geometry/resize_pairs.h"
+#include "geometry/resize_windows.h"
 
 namespace kvri {
 namespace {
@@ -23,69 +24,53 @@ class NearestStrip {
     alignas(64) Lane place_[kStripLanes];  // of each destination byte, from the lane's base on
     int32_t base_[kStripLanes];
     int lanes_, reach_;  // bytes that a lane's shuffle may reach; 0: pixels are copied
+    const int32_t* index_;   // source columns
+    int pixels_;
 
 public:
-    static constexpr int most = kStripLanes * kLane / B;
-    const int32_t* index;  // source columns
-    int pixels;
+    static constexpr int most = kStripLanes * kLane;  // destination bytes
 
-    void prepare(const ResizeSpec& spec, int position, int count) {
-        index = spec.table<int32_t>(spec.x.index) + position;
-        pixels = count;
+    template <int>
+    bool prepare(const int32_t* columns, int count) {
+        index_ = columns;
+        pixels_ = count;
         reach_ = 0;
         lanes_ = (count * B + kLane - 1) / kLane;
-        if (count * B < kLane) return;
+        if (count * B < kLane) return true;
         Lane widest{};
         for (int i = 0; i < lanes_; ++i) {
             const int byte = start(i), pixel = byte / B, phase = byte % B;
-            const Lane place = offsets(index + pixel, phase);
+            const Lane place = laneOffsets<B>(index_ + pixel, phase);
             // The second pixel may begin before the first byte.
-            const int low = phase == 0 ? 0 : std::min(phase, (index[pixel + 1] - index[pixel]) * B);
-            base_[i] = (index[pixel] - index[0]) * B + low;
+            const int low = phase == 0 ? 0 : std::min(phase, (index_[pixel + 1] - index_[pixel]) * B);
+            base_[i] = (index_[pixel] - index_[0]) * B + low;
             place_[i] = place - uint8_t(low);
             widest |= place_[i];
         }
         const int reach = allZero(widest & uint8_t(-kLane)) ? kLane : allZero(widest & uint8_t(-2 * kLane)) ? 2 * kLane : 0;
-        const int behind = (index[count - 1] - index[0] + 1) * B - reach;
-        if (reach == 0 || behind < 0) return;
+        const int behind = (index_[count - 1] - index_[0] + 1) * B - reach;
+        if (reach == 0 || behind < 0) return true;
         reach_ = reach;
         for (int i = lanes_ - 1; i >= 0 && base_[i] > behind; --i) {
             place_[i] += uint8_t(base_[i] - behind);
             base_[i] = behind;
         }
+        return true;
     }
 
+    static constexpr int mostRows = 1;
+    static int rowsAtATime() { return mostRows; }
+
     // src: the pixel of the first source column.
-    void apply(const uint8_t* src, uint8_t* dst) const {
+    void apply(const uint8_t* const* rows, int, uint8_t* dst, ptrdiff_t) const {
+        const uint8_t* src = rows[0];
         if (reach_ == kLane) return shuffleLanes<1>(src, dst);
         if (reach_ != 0) return shuffleLanes<2>(src, dst);
-        for (int i = 0, first = index[0]; i < pixels; ++i) std::memcpy(dst + i * B, src + ptrdiff_t(index[i] - first) * B, B);
+        for (int i = 0, first = index_[0]; i < pixels_; ++i) std::memcpy(dst + i * B, src + ptrdiff_t(index_[i] - first) * B, B);
     }
 
 private:
-    int start(int lane) const { return std::min(lane * kLane, pixels * B - kLane); }
-
-    // Byte k of a lane that begins `phase` bytes into a pixel: whose pixel's it is, and which of its bytes.
-    static constexpr auto table(auto entry) {
-        std::array<std::array<uint8_t, kLane>, B> t{};
-        for (int phase = 0; phase < B; ++phase)
-            for (int k = 0; k < kLane; ++k) t[phase][k] = uint8_t(entry(phase + k));
-        return t;
-    }
-    static constexpr auto kPixelOf = table([](int byte) { return byte / B; }), kByteOf = table([](int byte) { return byte % B; });
-
-    // Source bytes of a lane's destination bytes, from the first pixel's on; at most 255. What is read of `index` behind the
-    // row's end, three entries at most, is not used.
-    static Lane offsets(const int32_t* index, int phase) {
-        using Indices = Vec<uint32_t, kLane>;
-        constexpr int vectors = B == 1 ? 4 : B <= 3 ? 2 : 1;
-        const auto pixels = [&](int j) KVRI_INLINE {
-            const Indices v = load<Indices>(index + std::min(j, vectors - 1) * 4) - uint32_t(index[0]);
-            return (Vec<int32_t, kLane>)(v * uint32_t(B));
-        };
-        const auto begins = (Lane)narrow<uint8_t>(narrow<int16_t>(pixels(0), pixels(1)), narrow<int16_t>(pixels(2), pixels(3)));
-        return addSaturated(shuffle(begins, load<Lane>(kPixelOf[phase].data())), load<Lane>(kByteOf[phase].data()));
-    }
+    int start(int lane) const { return std::min(lane * kLane, pixels_ * B - kLane); }
 
     template <int Loads>
     void shuffleLanes(const uint8_t* src, uint8_t* dst) const {
@@ -108,14 +93,25 @@ private:
     }
 };
 
+// Column `column` of the source rows; none is beyond the image.
+struct SourceColumn {
+    const uint8_t* top;
+    ptrdiff_t step;
+
+    SourceColumn(const ResizeTile& tile, int column, ptrdiff_t pixelBytes)
+        : top(tile.src - tile.origin.y * tile.srcStep + (ptrdiff_t(column) - tile.origin.x) * pixelBytes), step(tile.srcStep) {}
+    const uint8_t* operator[](int row) const { return top + row * step; }
+};
+
 // Calls fill(source row from `column` on, destination row from x on) for every destination row. Writing two that are alike at
 // a time would be slower: rows may lie a power of two apart.
 template <int B, class Fill>
 KVRI_INLINE inline void eachRowOf(const ResizeTile& tile, int x, int column, Fill fill) {
     const int32_t* index = tile.spec.table<int32_t>(tile.spec.y.index) + tile.offset.y;
+    const SourceColumn source(tile, column, B);
     uint8_t* dst = tile.destination(0, x, B);
     for (int y = 0;; dst += tile.dstStep) {
-        fill(tile.source(index[y], column, B), dst);
+        fill(source[index[y]], dst);
         if (++y == tile.size.height) return;
     }
 }
@@ -189,21 +185,36 @@ void streamRow(uint8_t* dst, const uint8_t* from, ptrdiff_t n) {
     storePart(dst + i, load<Bytes<>>(from + i), n - i);
 }
 
-template <int B>
-void byStrips(const ResizeTile& tile) {
-    NearestStrip<B> strip;
-    for (int x = 0; x < tile.size.width; x += strip.most) {
-        strip.prepare(tile.spec, tile.offset.x + x, std::min(strip.most, tile.size.width - x));
-        if (tile.streams) {
-            uint8_t row[kStripLanes * kLane + kVectorBytes];
-            eachRowOf<B>(tile, x, strip.index[0], [&](const uint8_t* src, uint8_t* dst) KVRI_INLINE {
-                strip.apply(src, row);
-                streamRow(dst, row, ptrdiff_t(strip.pixels) * B);
-            });
-        } else {
-            eachRowOf<B>(tile, x, strip.index[0], [&](const uint8_t* src, uint8_t* dst) KVRI_INLINE { strip.apply(src, dst); });
+// Strips of destination columns, by tables of a kind; false where such tables do not reach.
+template <int B, class Tables>
+bool byStrips(const ResizeTile& tile) {
+    Tables tables;
+    const int32_t* index = tile.spec.table<int32_t>(tile.spec.x.index) + tile.offset.x;
+    const int width = tile.size.width;
+    constexpr int most = Tables::most / B;
+    int strip = width;  // of about the same width, so that none is short
+    if (width > most) strip = (width + width / most) / (width / most + 1);
+    for (int x = 0; x < width; x += strip) {
+        const int pixels = std::min(strip, width - x);
+        if (!tables.template prepare<B>(index + x, pixels)) return false;
+        const int32_t* rows = tile.spec.table<int32_t>(tile.spec.y.index) + tile.offset.y;
+        const SourceColumn source(tile, index[x], B);
+        const int atATime = tables.rowsAtATime();
+        for (int y = 0; y < tile.size.height; y += atATime) {
+            const uint8_t* src[Tables::mostRows];
+            const int n = std::min(atATime, tile.size.height - y);
+            for (int i = 0; i < n; ++i) src[i] = source[rows[y + i]];
+            uint8_t* dst = tile.destination(y, x, B);
+            if (tile.streams && Tables::mostRows == 1) {  // several rows at a time gain nothing from it
+                uint8_t row[Tables::most + kVectorBytes];
+                tables.apply(src, 1, row, 0);
+                streamRow(dst, row, ptrdiff_t(pixels) * B);
+            } else {
+                tables.apply(src, n, dst, tile.dstStep);
+            }
         }
     }
+    return true;
 }
 
 // Pixels of a whole lane.
@@ -223,15 +234,28 @@ void byLanes(const ResizeTile& tile) {
 }
 
 template <int B>
+void keepColumns(const ResizeTile& tile) {
+    const ptrdiff_t n = ptrdiff_t(tile.size.width) * B;
+    eachRowOf<B>(tile, 0, tile.offset.x, [&](const uint8_t* src, uint8_t* dst) KVRI_INLINE {
+        if (tile.streams) streamRow(dst, src, n);
+        else std::memcpy(dst, src, size_t(n));
+    });
+}
+
+template <int B>
 void resizeNearest(const ResizeTile& tile) {
     const ResizeAxis& x = tile.spec.x;
+    if (x.keeps()) return keepColumns<B>(tile);
     if (x.halves()) {
         if (halveColumns<B, kVectorBytes>(tile) || halveColumns<B, kShuffleBytes>(tile) || halveColumns<B, 16>(tile)) return;
     } else if (x.doubles()) {
         if (doubleColumns<B, kVectorBytes>(tile) || doubleColumns<B, kShuffleBytes>(tile) || doubleColumns<B, 16>(tile)) return;
     }
     if constexpr (B == kLane) byLanes(tile);
-    else byStrips<B>(tile);
+#if defined(__AVX512BW__)
+    else if (byStrips<B, WindowTables<64>>(tile) || byStrips<B, WindowTables<32>>(tile)) return;
+#endif
+    else byStrips<B, NearestStrip<B>>(tile);
 }
 
 template <class T, class L>

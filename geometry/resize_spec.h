@@ -23,6 +23,7 @@ enum class ResizeWeights : int32_t { None, Fixed14, Float, Double };
 struct ResizeAxis {
     int32_t source, destination;                // lengths
     int32_t reducedSource, reducedDestination;  // without their common divisor
+    double quotient;                            // of these
     int32_t halfWidth;
     int32_t taps;
     int32_t period;                     // positions after which weights repeat, and first taps move on by reducedSource
@@ -31,12 +32,13 @@ struct ResizeAxis {
     int32_t wholeBits;  // weights are whole numbers of 2^-wholeBits; -1: not, or too large ones for bytes
     int32_t magnitude;  // the largest sum of their magnitudes in these units
 
-    double ratio() const { return double(reducedSource) / reducedDestination; }
+    double ratio() const { return quotient; }
     // The source coordinate of destination position i; pixel centres are whole numbers.
     double coordinate(int i) const { return (i + 0.5) * ratio() - 0.5; }
     bool shrinks() const { return source > destination; }
     bool halves() const { return reducedSource == 2 && reducedDestination == 1; }
     bool doubles() const { return reducedSource == 1 && reducedDestination == 2; }
+    bool keeps() const { return source == destination; }
 };
 
 struct ResizeSpec {
@@ -50,6 +52,7 @@ struct ResizeSpec {
 
     bool halves() const { return x.halves() && y.halves(); }
     bool doubles() const { return x.doubles() && y.doubles(); }
+    bool keeps() const { return x.keeps() && y.keeps(); }
     // Whether sums of 8u, in any order, are exact in single precision and in 16-bit numbers between the passes.
     bool whole() const { return x.wholeBits >= 0 && y.wholeBits >= 0 && 255 * x.magnitude * y.magnitude <= 1 << 24; }
 

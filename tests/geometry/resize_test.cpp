@@ -284,6 +284,30 @@ TEST(Resize, BeyondWhatAStripHolds) {
     }
 }
 
+// Rows a multiple of the page apart are worked on in another number at a time.
+TEST(Resize, StepsDoNotMatter) {
+    for (const Case& c : cases()) {
+        if (c.type != Type::u8 || (c.method != kvrInterpLinear && c.method != kvrInterpNearest)) continue;
+        for (const KvriSize dst : {KvriSize{200, 140}, KvriSize{140, 98}, KvriSize{70, 99}, KvriSize{33, 50}, KvriSize{100, 30}}) {
+            Random random(29);
+            const KvriSize src{100, 70};
+            const Object object(c, {}, src, dst);
+            std::vector<uint8_t> buffer(size_t(object.bufferBytes(dst)));
+            const int srcBytes = c.pixelBytes() * src.width, dstBytes = c.pixelBytes() * dst.width;
+            const TestImage from(srcBytes, src.height, srcBytes, Edge::End), to(dstBytes, dst.height, dstBytes, Edge::End);
+            const TestImage spread(srcBytes, src.height, 2048, Edge::Begin), result(dstBytes, dst.height, 4096, Edge::Begin);
+            for (int y = 0; y < src.height; ++y) {
+                for (int x = 0; x < srcBytes; ++x) from.row(y)[x] = uint8_t(random.in(0, 255));
+                std::memcpy(spread.row(y), from.row(y), size_t(srcBytes));
+            }
+            ASSERT_EQ(c.apply({from.roi, from.step, to.roi, to.step, {0, 0}, dst}, object.spec(), buffer.data()), kvrStatusOk);
+            ASSERT_EQ(c.apply({spread.roi, spread.step, result.roi, result.step, {0, 0}, dst}, object.spec(), buffer.data()), kvrStatusOk);
+            for (int y = 0; y < dst.height; ++y)
+                ASSERT_EQ(std::memcmp(to.row(y), result.row(y), size_t(dstBytes)), 0) << c.name << " to " << dst.width << "x" << dst.height << ", row " << y;
+        }
+    }
+}
+
 TEST(Resize, ObjectsMayMoveAndServeThreads) {
     for (const Case& c : cases()) {
         if (c.channels != 1) continue;
