@@ -59,7 +59,14 @@ TEST(Resize, MatchesContract) {
         }
 }
 
-void expectTileOfWhole(const Scene& s, const TestImage& whole, const TestImage& tile, Random& random) {
+// All pixels, and those of some tile.
+void expectContractAndTile(const Scene& s, Random& random) {
+    const TestImage whole(s.c.pixelBytes() * s.dst.width, s.dst.height, random), tile(whole.rowBytes, whole.rows, random);
+    const auto first = expected(s, whole, true), second = expected(s, whole, false);
+    ASSERT_EQ(s.run({0, 0}, s.dst, whole, random), kvrStatusOk) << describe(s);
+    const auto memory = whole.memory();
+    ASSERT_TRUE(memory == first || memory == second) << describe(s) << "\n" << firstDifference(s, whole, first);
+
     const KvriPoint at{random.in(0, s.dst.width - 1), random.in(0, s.dst.height - 1)};
     const KvriSize size{random.in(1, s.dst.width - at.x), random.in(1, s.dst.height - at.y)};
     const size_t bytes = size_t(size.width) * s.c.pixelBytes();
@@ -86,17 +93,12 @@ TEST(Resize, FactorsOfTwo) {
                         const double extremes[] = {3e38, -3e38, 1e-45, 3e-45, -1.2e-38, 5e-39, 0.3};
                         contract::store(c.type, extremes[random.in(0, 6)], s.pixel(random.in(0, s.src.width - 1), random.in(0, s.src.height - 1)));
                     }
-                const TestImage have(c.pixelBytes() * s.dst.width, s.dst.height, random), tile(have.rowBytes, have.rows, random);
-                const auto first = expected(s, have, true), second = expected(s, have, false);
-                ASSERT_EQ(s.run({0, 0}, s.dst, have, random), kvrStatusOk) << describe(s);
-                const auto memory = have.memory();
-                ASSERT_TRUE(memory == first || memory == second) << describe(s) << "\n" << firstDifference(s, have, first);
-                expectTileOfWhole(s, have, tile, random);
+                expectContractAndTile(s, random);
             }
     }
 }
 
-// The same by more weights: of groups of rows and their rests, chunks and strips of columns and theirs.
+// The same by more weights: of groups of rows and their rests, strips of columns and theirs.
 TEST(Resize, OctavesByWeights) {
     constexpr KvriSize kSmaller[] = {{7, 9}, {33, 8}, {130, 25}, {300, 17}, {1050, 7}};
     for (const Case& c : cases()) {
@@ -106,12 +108,7 @@ TEST(Resize, OctavesByWeights) {
             for (const bool up : {false, true}) {
                 const KvriSize large{2 * small.width, 2 * small.height};
                 const Scene s(c, randomChoice(random), up ? small : large, up ? large : small, kBorders[random.in(0, 5)], random);
-                const TestImage have(c.pixelBytes() * s.dst.width, s.dst.height, random), tile(have.rowBytes, have.rows, random);
-                const auto first = expected(s, have, true), second = expected(s, have, false);
-                ASSERT_EQ(s.run({0, 0}, s.dst, have, random), kvrStatusOk) << describe(s);
-                const auto memory = have.memory();
-                ASSERT_TRUE(memory == first || memory == second) << describe(s) << "\n" << firstDifference(s, have, first);
-                expectTileOfWhole(s, have, tile, random);
+                expectContractAndTile(s, random);
             }
     }
 }
