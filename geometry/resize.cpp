@@ -10,6 +10,8 @@
 #include "geometry/resize_apply.h"
 #include "geometry/resize_double.h"
 #include "geometry/resize_halve.h"
+#include "geometry/resize_octave.h"
+#include "geometry/resize_octave_up.h"
 #include "geometry/resize_strip.h"
 #include "geometry/resize_whole.h"
 
@@ -225,12 +227,54 @@ private:
     }
 };
 
+#if defined(__AVX512BW__)
+template <class T>
+constexpr bool kWholeNumbers = sizeof(T) == 1;
+#else
+template <class T>
+constexpr bool kWholeNumbers = false;
+#endif
+
+// Exactly half or twice the size; false, with nothing done, where it is not or no kernel has as many taps.
+template <class T>
+bool octaveDown(const ResizeTile& tile) {
+    const ResizeSpec& spec = tile.spec;
+    if (!spec.halves() || spec.x.taps != spec.y.taps) return false;
+    switch (spec.x.taps) {
+        case 4: OctaveDown<T, 4>(tile).run(); return true;
+        case 6: OctaveDown<T, 6>(tile).run(); return true;
+        case 8: OctaveDown<T, 8>(tile).run(); return true;
+        case 12: OctaveDown<T, 12>(tile).run(); return true;
+        default: return false;
+    }
+}
+
+template <class T, int C>
+bool octaveUp(const ResizeTile& tile) {
+    const ResizeSpec& spec = tile.spec;
+    if (!spec.doubles() || spec.rowsFirst || spec.x.taps != spec.y.taps) return false;
+    switch (spec.x.taps) {
+        case 4: OctaveUp<T, C, 4>(tile).run(); return true;
+        case 6: OctaveUp<T, C, 6>(tile).run(); return true;
+        default: return false;
+    }
+}
+
+template <class T, int C>
+bool octave(const ResizeTile& tile) {
+    if constexpr (C == 1)
+        if (octaveDown<T>(tile)) return true;
+    return octaveUp<T, C>(tile);
+}
+
 // A function of its own, so that halving needs no large frame.
 template <class T, int C, KvriInterpolationType Method>
 [[gnu::noinline]] void resizeByWeights(const ResizeTile& tile) {
     const DefaultFloatControl control;
     if constexpr (!std::is_same_v<T, Kvr64f> && sizeof(T) > 1 && Method == kvrInterpLinear)
         if (doubles(tile)) return Doubler<T, C>(tile).run();
+    if constexpr (!std::is_same_v<T, Kvr64f>)
+        if (!(kWholeNumbers<T> && tile.spec.whole()) && octave<T, C>(tile)) return;
     Resizer<T, C>(tile).run();
 }
 

@@ -14,9 +14,8 @@ inline bool doubles(const ResizeTile& tile) {
 
 template <class T, int C>
 class Doubler {
-    using Pick = Picker<float>;
     using V = Vec<float>;
-    static constexpr int lanes = Pick::lanes;
+    static constexpr int lanes = kVectorBytes / 4;
     static constexpr int taken = lanes / C * C;  // samples of a vector: whole pixels
     static constexpr int most = 256 / C;         // source pixels of a strip
     static constexpr ptrdiff_t pixelBytes = C * sizeof(T);
@@ -105,22 +104,8 @@ private:
         for (int s = 0; s < columns * C; s += taken) {
             const V middle = load<V>(p + s + C) * 0.75f;
             const V even = load<V>(p + s) * 0.25f + middle, odd = middle + load<V>(p + s + 2 * C) * 0.25f;
-            give(2 * s, Pick::template pick<2>(even, odd, interleaving<0>()), Pick::template pick<2>(even, odd, interleaving<1>()));
+            give(2 * s, interleavedPixels<C, 0>(even, odd), interleavedPixels<C, 1>(even, odd));
         }
-    }
-
-    // Pixels of an even and an odd vector alternately: half of them.
-    template <int half>
-    static typename Pick::Codes interleaving() {
-        alignas(64) static constexpr auto codes = [] {
-            std::array<uint32_t, lanes> a{};
-            for (int i = 0; i < lanes; ++i) {
-                const int sample = half * lanes + i, pixel = sample / C;
-                a[i] = Pick::code(uint32_t(pixel % 2 * lanes + std::min(pixel / 2 * C + sample % C, lanes - 1)));
-            }
-            return a;
-        }();
-        return load<typename Pick::Codes>(codes.data());
     }
 };
 

@@ -1,6 +1,9 @@
 // geometry/resize_pick.h: numbers picked from one or two vectors.
 #pragma once
 
+#include <algorithm>
+#include <array>
+
 #include "core/lanes.h"
 
 namespace kvri {
@@ -59,5 +62,20 @@ struct Picker {
 #endif
     }
 };
+
+// Pixels of an even and an odd vector alternately: the first vector of them, or the second.
+template <int C, int half>
+inline Vec<float> interleavedPixels(Vec<float> even, Vec<float> odd) {
+    using Pick = Picker<float>;
+    alignas(64) static constexpr auto codes = [] {
+        std::array<uint32_t, Pick::lanes> a{};
+        for (int i = 0; i < Pick::lanes; ++i) {
+            const int sample = half * Pick::lanes + i, pixel = sample / C;
+            a[i] = Pick::code(uint32_t(pixel % 2 * Pick::lanes + std::min(pixel / 2 * C + sample % C, Pick::lanes - 1)));
+        }
+        return a;
+    }();
+    return Pick::template pick<2>(even, odd, load<typename Pick::Codes>(codes.data()));
+}
 
 }  // namespace kvri

@@ -1,0 +1,192 @@
+// geometry/resize_octave.h: exactly half the size, of one channel, by weights of single precision.
+//
+// All destination pixels have the same weights, and each source row and column is used at known taps: the passes need no
+// tables, and a group of destination rows takes every source row once. Operations and their order are those of any ratio,
+// rows first.
+#pragma once
+
+#include "geometry/resize_apply.h"
+#include "geometry/resize_pairs.h"
+#include "geometry/resize_rows.h"
+
+namespace kvri {
+
+template <class T, int Taps>
+class OctaveDown {
+    using V = Vec<float>;
+    using Pairs = PixelPairs<kVectorBytes, sizeof(float)>;
+    static constexpr int lanes = kVectorBytes / 4, block = 2 * lanes;  // source columns of which two vectors are made
+    static constexpr int group = 8, chunk = 128;                       // destination rows and columns that are finished at a time
+    static constexpr int most = 1024;                                  // destination columns of a strip
+    static constexpr int running = Taps / 2 - 1;  // destination rows that a group's last source row leaves unfinished
+
+    // Sums over rows, even and odd columns apart: of a chunk and of some columns on either side.
+    class Planes {
+        static constexpr int before = 32, ahead = 64;
+        alignas(64) float plane_[group][2][(before + 2 * chunk + ahead) / 2];
+
+    public:
+        static constexpr int columns = 2 * chunk + ahead;
+
+        float* at(int row, int column) { return plane_[row][column & 1] + before / 2 + (column >> 1); }
+        const float* at(int row, int column) const { return const_cast<Planes*>(this)->at(row, column); }
+        void toNextChunk(int rows) {
+            for (int r = 0; r < rows; ++r)
+                for (auto& p : plane_[r]) std::copy_n(p + chunk, (before + ahead) / 2, p);
+        }
+    };
+
+    const ResizeTile& tile_;
+    V across_[Taps], along_[Taps];  // weights of the columns' and the rows' passes
+    V sums_[(2 * most + block + Taps) / block + 1][running][2];  // of unfinished rows
+    Planes planes_;
+    int low_, columns_, first_, last_;  // source columns of the strip: as they are there, and of its taps counted from these
+
+public:
+    explicit OctaveDown(const ResizeTile& tile) : tile_(tile) {
+        const ResizeSpec& spec = tile.spec;
+        for (int t = 0; t < Taps; ++t) {
+            across_[t] = splat<V>(spec.weight<float>(spec.y, tile.offset.y, t));
+            along_[t] = splat<V>(spec.weight<float>(spec.x, tile.offset.x, t));
+        }
+    }
+
+    void run() {
+        for (int x = 0; x < tile_.size.width; x += most) strip(x, std::min(most, tile_.size.width - x));
+    }
+
+private:
+    // Blocks are counted from the tile's first source column, which is likely to be where a line of the cache begins.
+    void strip(int x, int pixels) {
+        const auto firstTap = [&](int x) { return tile_.spec.firstTap(tile_.spec.x, tile_.offset.x + x); };
+        const int begin = tile_.columns(firstTap(0)), first = firstTap(x), low = tile_.columns(first);
+        low_ = low - (low - begin) % block;
+        first_ = first - low_;
+        last_ = first_ + 2 * (pixels - 1) + Taps - 1;
+        columns_ = tile_.columns(first_ + low_ + 2 * (pixels - 1) + Taps - 1) - low_ + 1;
+
+        int source = tile_.spec.firstTap(tile_.spec.y, tile_.offset.y), y = 0;
+        Rows<Taps - 2> above(tile_, source, low_, columns_);
+        sumBlocks<0>(above, 0, columns_, 0);
+        source += Taps - 2;
+        const auto finish = [&](auto count) {
+            Rows<2 * count> rows(tile_, source, low_, columns_);
+            int done = 0;
+            for (int i = 0; i < pixels; i += chunk) {
+                if (i > 0) planes_.toNextChunk(count);
+                const int end = std::min(columns_, 2 * i + Planes::columns);
+                done = sumBlocks<Taps - 2>(rows, done, end, 2 * i);
+                for (int r = 0; r < count; ++r) {
+                    if (i == 0) extend(r, first_, 0, 0);
+                    if (end == columns_) extend(r, columns_ - 2 * i, std::min(last_ - 2 * i + 1, Planes::columns), columns_ - 2 * i - 1);
+                    sumColumns(r, RowOf<T>(tile_.destination(y + r, x + i, sizeof(T))), std::min(chunk, pixels - i));
+                }
+            }
+            source += 2 * count;
+            y += count;
+        };
+        while (tile_.size.height - y >= group) finish(std::integral_constant<int, group>{});
+        while (y < tile_.size.height) finish(std::integral_constant<int, 1>{});
+    }
+
+    // Source rows from the strip's first column on, and a copy of a last block that is not whole.
+    template <int count>
+    struct Rows {
+        const uint8_t* row[count];
+        const uint8_t* rest[count];
+        alignas(64) uint8_t copy[count][(block * sizeof(T) + kVectorBytes - 1) / kVectorBytes * kVectorBytes];
+
+        Rows(const ResizeTile& tile, int first, int low, int columns) {
+            const ptrdiff_t from = columns / block * block * ptrdiff_t(sizeof(T)), bytes = columns % block * ptrdiff_t(sizeof(T));
+            for (int j = 0; j < count; ++j) {
+                row[j] = tile.source(first + j, low, sizeof(T));
+                rest[j] = copy[j];
+                for (ptrdiff_t k = 0; k < bytes; k += kVectorBytes)
+                    store(copy[j] + k, loadPart<Bytes<>>(row[j] + from + k, std::min<ptrdiff_t>(bytes - k, kVectorBytes)));
+            }
+        }
+    };
+
+    // Adds source rows, of blocks from column `at` up to `end`; returns where that was. The first row is number `from` of the
+    // first unfinished row's taps. Finished sums go to the planes, counted from column `chunkBegin`.
+    template <int from, int count>
+    int sumBlocks(const Rows<count>& rows, int at, int end, int chunkBegin) {
+        for (; at < end; at += block) {
+            const bool whole = columns_ - at >= block;
+            sumBlock<from, count>(whole ? rows.row : rows.rest, whole ? at : 0, at - chunkBegin, sums_[at / block]);
+        }
+        return at;
+    }
+
+    // Columns of a block: of 16-bit samples the even and the odd ones apart, which costs nothing.
+    KVRI_INLINE static void loadPairs(const uint8_t* p, V (&v)[2]) {
+        if constexpr (sizeof(T) == 2) {
+            using Words = Vec<int32_t>;
+            const auto pairs = loadedOnce(load<Words>(p));
+            v[0] = loadedOnce(toFloats(std::is_signed_v<T> ? (Words)((Vec<uint32_t>)pairs << 16) >> 16 : pairs & 0xFFFF));
+            v[1] = loadedOnce(toFloats(std::is_signed_v<T> ? pairs >> 16 : (Words)((Vec<uint32_t>)pairs >> 16)));
+        } else {
+            unroll<2>([&](auto u) KVRI_INLINE { v[u] = loadedOnce(loadReals<T>(p + u * kPackedBytes<T>)); });
+        }
+    }
+    KVRI_INLINE static void takeApart(V (&v)[2]) {
+        if constexpr (sizeof(T) != 2) {
+            const auto a = (Bytes<>)v[0], b = (Bytes<>)v[1];
+            v[0] = (V)Pairs::ordered(Pairs::template pick<Pairs::Firsts>(a, b));
+            v[1] = (V)Pairs::ordered(Pairs::template pick<Pairs::Seconds>(a, b));
+        }
+    }
+
+    template <int from, int rows>
+    [[gnu::noinline]] void sumBlock(const uint8_t* const* source, ptrdiff_t at, int column, V (&unfinished)[running][2]) {
+        constexpr int finished = from == 0 ? 0 : rows / 2;
+        V sums[finished + running][2];
+        if constexpr (from > 0) unroll<running>([&](auto r) KVRI_INLINE { sums[r][0] = unfinished[r][0], sums[r][1] = unfinished[r][1]; });
+        unroll<rows>([&](auto j) KVRI_INLINE {
+            V v[2];
+            loadPairs(source[j] + at * ptrdiff_t(sizeof(T)), v);
+            unroll<finished + running>([&](auto r) KVRI_INLINE {
+                constexpr int tap = from + j - 2 * r;
+                if constexpr (tap >= 0 && tap < Taps)
+                    unroll<2>([&](auto u) KVRI_INLINE {
+                        const V product = v[u] * across_[tap];
+                        sums[r][u] = loadedOnce(tap == 0 ? product : sums[r][u] + product);  // in this order: else registers run out
+                    });
+                if constexpr (tap == Taps - 1) {
+                    takeApart(sums[r]);
+                    store(planes_.at(r, column), sums[r][0]);
+                    store(planes_.at(r, column + 1), sums[r][1]);
+                }
+            });
+        });
+        unroll<running>([&](auto r) KVRI_INLINE { unfinished[r][0] = sums[finished + r][0], unfinished[r][1] = sums[finished + r][1]; });
+    }
+
+    // Columns from `begin` to `end` repeat one.
+    void extend(int row, int begin, int end, int column) {
+        for (int i = begin; i < end; ++i) *planes_.at(row, i) = *planes_.at(row, column);
+    }
+
+    void sumColumns(int r, RowOf<T> out, int pixels) const {
+        const float* tap[Taps];
+        for (int t = 0; t < Taps; ++t) tap[t] = planes_.at(r, first_ + t);
+        const auto sum = [&](int i) KVRI_INLINE {
+            V acc;
+            unroll<Taps>([&](auto t) KVRI_INLINE {
+                const V product = load<V>(tap[t] + i) * along_[t];
+                acc = t == 0 ? product : acc + product;
+            });
+            return acc;
+        };
+        int i = 0;
+        for (; pixels - i >= 4 * lanes; i += 4 * lanes) {
+            V v[4];
+            unroll<4>([&](auto u) KVRI_INLINE { v[u] = sum(i + u * lanes); });
+            out.four(i, v);
+        }
+        for (; pixels - i >= lanes; i += lanes) out.one(i, sum(i));
+        if (i < pixels) out.part(i, sum(i), pixels - i);
+    }
+};
+
+}  // namespace kvri
