@@ -86,8 +86,7 @@ private:
         ptrdiff_t step;
         int slots, end = INT_MIN;  // end: behind the last row
 
-        Ring(uint8_t* rows, int slots, ptrdiff_t samples)
-            : rows(rows), step(stepOf(samples)), slots(slots) {
+        Ring(uint8_t* rows, int slots, ptrdiff_t samples) : rows(rows), step(stepOf(samples)), slots(slots) {
             for (int i = 0; i < 2 * slots; ++i) place[i] = at(i);
         }
         // An odd number of lines, for the cache.
@@ -139,10 +138,10 @@ private:
     }
 #endif
 
-    // Rows that n destination rows from y on use, and those before them do not.
+    // Source rows that n destination rows from y on use, and those before y do not.
     void prefetchSource(int y, int n, int low, ptrdiff_t bytes) const {
         const int end = std::min(y + n, tile_.size.height), taps = std::min(spec_.y.taps, kMostSources);
-        for (int row = y == 0 ? INT_MIN : firstTap(y - 1) + taps; y < end; ++y)
+        for (int row = firstTap(y - 1) + taps; y < end; ++y)
             for (row = std::max(row, firstTap(y)); row < firstTap(y) + taps; ++row) prefetch(tile_.source(row, low, pixelBytes), bytes);
     }
 

@@ -6,7 +6,7 @@
 
 namespace kvri {
 
-constexpr int kStripSamples = 512, kStripWeightBytes = 12288, kStripRowBytes = 5376;
+constexpr int kStripSamples = 512, kStripWeightBytes = 12288, kStripRowBytes = 6208;
 // What kernels may touch behind a row's last tap.
 constexpr int kRowSlackBytes = 4 * kVectorBytes;
 
