@@ -23,7 +23,7 @@ class OctaveUp {
         V weight[2][Taps];
         int shift;  // of the odd ones' taps
 
-        Phases(const ResizeSpec& spec, const ResizeAxis& a, int position) : shift(spec.firstTap(a, position + 1) - spec.firstTap(a, position)) {
+        Phases(const ResizeSpec& spec, const ResizeAxis& a, int position) : shift(1 - position % 2) {
             for (int i : {0, 1})
                 for (int t = 0; t < Taps; ++t) weight[i][t] = splat<V>(spec.weight<float>(a, position + i, t));
         }

@@ -59,6 +59,16 @@ TEST(Resize, MatchesContract) {
         }
 }
 
+void expectTileOfWhole(const Scene& s, const TestImage& whole, const TestImage& tile, Random& random) {
+    const KvriPoint at{random.in(0, s.dst.width - 1), random.in(0, s.dst.height - 1)};
+    const KvriSize size{random.in(1, s.dst.width - at.x), random.in(1, s.dst.height - at.y)};
+    const size_t bytes = size_t(size.width) * s.c.pixelBytes();
+    ASSERT_EQ(s.run(at, size, tile, random), kvrStatusOk) << describe(s);
+    for (int row = at.y; row < at.y + size.height; ++row)
+        ASSERT_EQ(std::memcmp(tile.row(row) + at.x * s.c.pixelBytes(), whole.row(row) + at.x * s.c.pixelBytes(), bytes), 0)
+            << describe(s) << ", tile at " << at.x << ", " << at.y << ", " << size.width << "x" << size.height;
+}
+
 // Half and double size have ways of their own, by whole vectors. Single precision with numbers that overflow and vanish.
 TEST(Resize, FactorsOfTwo) {
     constexpr KvriSize kFactors[] = {{-1, -1}, {1, 1}, {-1, 1}, {1, -1}};
@@ -81,13 +91,27 @@ TEST(Resize, FactorsOfTwo) {
                 ASSERT_EQ(s.run({0, 0}, s.dst, have, random), kvrStatusOk) << describe(s);
                 const auto memory = have.memory();
                 ASSERT_TRUE(memory == first || memory == second) << describe(s) << "\n" << firstDifference(s, have, first);
+                expectTileOfWhole(s, have, tile, random);
+            }
+    }
+}
 
-                const KvriPoint at{random.in(0, s.dst.width - 1), random.in(0, s.dst.height - 1)};
-                const KvriSize size{random.in(1, s.dst.width - at.x), random.in(1, s.dst.height - at.y)};
-                ASSERT_EQ(s.run(at, size, tile, random), kvrStatusOk) << describe(s);
-                for (int row = at.y; row < at.y + size.height; ++row)
-                    ASSERT_EQ(std::memcmp(tile.row(row) + at.x * c.pixelBytes(), have.row(row) + at.x * c.pixelBytes(), size_t(size.width) * c.pixelBytes()), 0)
-                        << describe(s) << ", tile at " << at.x << ", " << at.y << ", " << size.width << "x" << size.height;
+// The same by more weights: of groups of rows and their rests, chunks and strips of columns and theirs.
+TEST(Resize, OctavesByWeights) {
+    constexpr KvriSize kSmaller[] = {{7, 9}, {33, 8}, {130, 25}, {300, 17}, {1050, 7}};
+    for (const Case& c : cases()) {
+        if (!c.antialiasing() && c.method != kvrInterpCubic && c.method != kvrInterpLanczos) continue;
+        Random random(23);
+        for (const KvriSize small : kSmaller)
+            for (const bool up : {false, true}) {
+                const KvriSize large{2 * small.width, 2 * small.height};
+                const Scene s(c, randomChoice(random), up ? small : large, up ? large : small, kBorders[random.in(0, 5)], random);
+                const TestImage have(c.pixelBytes() * s.dst.width, s.dst.height, random), tile(have.rowBytes, have.rows, random);
+                const auto first = expected(s, have, true), second = expected(s, have, false);
+                ASSERT_EQ(s.run({0, 0}, s.dst, have, random), kvrStatusOk) << describe(s);
+                const auto memory = have.memory();
+                ASSERT_TRUE(memory == first || memory == second) << describe(s) << "\n" << firstDifference(s, have, first);
+                expectTileOfWhole(s, have, tile, random);
             }
     }
 }
