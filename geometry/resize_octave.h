@@ -16,29 +16,24 @@ class OctaveDown {
     using V = Vec<float>;
     using Pairs = PixelPairs<kVectorBytes, sizeof(float)>;
     static constexpr int lanes = kVectorBytes / 4, block = 2 * lanes;  // source columns of which two vectors are made
-    static constexpr int group = 8, chunk = 128;                       // destination rows and columns that are finished at a time
-    static constexpr int most = 1024;                                  // destination columns of a strip
+    static constexpr int group = 8;    // destination rows that are finished at a time
+    static constexpr int most = 512;   // destination columns of a strip
+    static constexpr int columnsOfStrip = (2 * most + Taps + 2 * block - 1) / block * block;
     static constexpr int running = Taps / 2 - 1;  // destination rows that a group's last source row leaves unfinished
 
-    // Sums over rows, even and odd columns apart: of a chunk and of some columns on either side.
+    // Sums over rows, even and odd columns apart; some are before the first, and what is loaded behind the last is not used.
     class Planes {
-        static constexpr int before = 32, ahead = 64;
-        alignas(64) float plane_[group][2][(before + 2 * chunk + ahead) / 2];
+        static constexpr int before = 32;
+        alignas(64) float plane_[group][2][(before + columnsOfStrip) / 2 + lanes];
 
     public:
-        static constexpr int columns = 2 * chunk + ahead;
-
         float* at(int row, int column) { return plane_[row][column & 1] + before / 2 + (column >> 1); }
         const float* at(int row, int column) const { return const_cast<Planes*>(this)->at(row, column); }
-        void toNextChunk(int rows) {
-            for (int r = 0; r < rows; ++r)
-                for (auto& p : plane_[r]) std::copy_n(p + chunk, (before + ahead) / 2, p);
-        }
     };
 
     const ResizeTile& tile_;
     V across_[Taps], along_[Taps];  // weights of the columns' and the rows' passes
-    V sums_[(2 * most + block + Taps) / block + 1][running][2];  // of unfinished rows
+    V sums_[columnsOfStrip / block][running][2];  // of unfinished rows
     Planes planes_;
     int low_, columns_, first_, last_;  // source columns of the strip: as they are there, and of its taps counted from these
 
@@ -66,25 +61,19 @@ private:
         columns_ = tile_.columns(first_ + low_ + 2 * (pixels - 1) + Taps - 1) - low_ + 1;
 
         int source = tile_.spec.firstTap(tile_.spec.y, tile_.offset.y), y = 0;
-        Rows<Taps - 2> above(tile_, source, low_, columns_);
-        sumBlocks<0>(above, 0, columns_, 0);
-        source += Taps - 2;
+        const auto sum = [&](auto from, auto count) {
+            sumRows<from>(Rows<count>(tile_, source, low_, columns_));
+            source += count;
+        };
         const auto finish = [&](auto count) {
-            Rows<2 * count> rows(tile_, source, low_, columns_);
-            int done = 0;
-            for (int i = 0; i < pixels; i += chunk) {
-                if (i > 0) planes_.toNextChunk(count);
-                const int end = std::min(columns_, 2 * i + Planes::columns);
-                done = sumBlocks<Taps - 2>(rows, done, end, 2 * i);
-                for (int r = 0; r < count; ++r) {
-                    if (i == 0) extend(r, first_, 0, 0);
-                    if (end == columns_) extend(r, columns_ - 2 * i, std::min(last_ - 2 * i + 1, Planes::columns), columns_ - 2 * i - 1);
-                    sumColumns(r, RowOf<T>(tile_.destination(y + r, x + i, sizeof(T))), std::min(chunk, pixels - i));
-                }
+            sum(std::integral_constant<int, Taps - 2>{}, std::integral_constant<int, 2 * count>{});
+            for (int r = 0; r < count; ++r) {
+                extend(r);
+                sumColumns(r, RowOf<T>(tile_.destination(y + r, x, sizeof(T))), pixels);
             }
-            source += 2 * count;
             y += count;
         };
+        sum(std::integral_constant<int, 0>{}, std::integral_constant<int, Taps - 2>{});
         while (tile_.size.height - y >= group) finish(std::integral_constant<int, group>{});
         while (y < tile_.size.height) finish(std::integral_constant<int, 1>{});
     }
@@ -107,15 +96,13 @@ private:
         }
     };
 
-    // Adds source rows, of blocks from column `at` up to `end`; returns where that was. The first row is number `from` of the
-    // first unfinished row's taps. Finished sums go to the planes, counted from column `chunkBegin`.
+    // Adds source rows. The first one is number `from` of the first unfinished row's taps.
     template <int from, int count>
-    int sumBlocks(const Rows<count>& rows, int at, int end, int chunkBegin) {
-        for (; at < end; at += block) {
+    void sumRows(const Rows<count>& rows) {
+        for (int at = 0; at < columns_; at += block) {
             const bool whole = columns_ - at >= block;
-            sumBlock<from, count>(whole ? rows.row : rows.rest, whole ? at : 0, at - chunkBegin, sums_[at / block]);
+            sumBlock<from, count>(whole ? rows.row : rows.rest, whole ? at : 0, at, sums_[at / block]);
         }
-        return at;
     }
 
     // Columns of a block: of 16-bit samples the even and the odd ones apart, which costs nothing.
@@ -162,9 +149,10 @@ private:
         unroll<running>([&](auto r) KVRI_INLINE { unfinished[r][0] = sums[finished + r][0], unfinished[r][1] = sums[finished + r][1]; });
     }
 
-    // Columns from `begin` to `end` repeat one.
-    void extend(int row, int begin, int end, int column) {
-        for (int i = begin; i < end; ++i) *planes_.at(row, i) = *planes_.at(row, column);
+    // Columns that are not there repeat the first or the last one.
+    void extend(int row) {
+        for (int i = first_; i < 0; ++i) *planes_.at(row, i) = *planes_.at(row, 0);
+        for (int i = columns_; i <= last_; ++i) *planes_.at(row, i) = *planes_.at(row, columns_ - 1);
     }
 
     void sumColumns(int r, RowOf<T> out, int pixels) const {
