@@ -18,20 +18,21 @@
 namespace kvri {
 namespace {
 
-// Rows between the passes that the stack has room for; of more, the caller's buffer holds as many as a pixel has taps.
-constexpr int kRingRows = 8;
+// Rows between the passes: those of a pixel's taps, and what is resized ahead of them.
+constexpr int kRingSlots = 16, kRingBytes = kRingSlots * (kStripSamples * int(sizeof(float)) + 64);
+static_assert(kMostKeptTaps + kGroupRows - 1 <= kRingSlots);
 
 template <class T, int C>
 class Resizer {
     using F = RealOf<T>;
     static constexpr ptrdiff_t pixelBytes = C * sizeof(T), rowStride = kStripRowBytes / sizeof(F);
-    static constexpr bool sideBySide = C > 1 && sizeof(F) == 4;  // rows first
 
     const ResizeTile& tile_;
     const ResizeSpec& spec_ = tile_.spec;
+    const TapsOf<F> rowTaps_{spec_, spec_.y};
     Strip<F> strip_;
-    alignas(64) F rows_[kGroupRows * rowStride];  // the strip's source columns, of a group
-    alignas(64) F ring_[kRingRows * kStripSamples];
+    alignas(64) F rows_[kGroupRows * rowStride];  // the strip's source columns
+    alignas(64) uint8_t ring_[kRingBytes + 2 * kVectorBytes];  // sums look a little further
 
 public:
     explicit Resizer(const ResizeTile& tile) : tile_(tile) {}
@@ -39,13 +40,15 @@ public:
     void run() {
         const int n = Strip<F>::pixelsPerStrip(spec_, C);
         if (n == 0 || spec_.y.taps > kMostSources) return runPixels();
-        for (int x = 0; x < tile_.size.width; x += n) {
-            const int pixels = std::min(n, tile_.size.width - x);
+        for (int x = 0, pixels; x < tile_.size.width; x += pixels) {
 #if defined(__AVX512BW__)
-            if constexpr (sizeof(T) == 1)
+            if constexpr (sizeof(T) == 1) {
+                pixels = std::min(Strip<F>::pixelsPerStrip(spec_, C, sizeof(int16_t)), tile_.size.width - x);
                 if (wholeRows(x, pixels)) continue;
+            }
 #endif
-            strip_.template prepare<C>(spec_, tile_.offset.x + x, pixels, spec_.rowsFirst && sideBySide);
+            pixels = std::min(n, tile_.size.width - x);
+            strip_.template prepare<C>(spec_, tile_.offset.x + x, pixels);
             if (spec_.rowsFirst) rowsFirst(x);
             else columnsFirst(x);
         }
@@ -53,10 +56,8 @@ public:
 
 private:
     int position(int y) const { return tile_.offset.y + y; }
-    // How many rows from y on are summed together.
-    int rowsTogether(int y, int sources) const {
-        return RowGroup<F>::rowsWithin(spec_, position(y), std::min(kGroupRows, tile_.size.height - y), sources);
-    }
+    int firstTap(int y) const { return rowTaps_.first(position(y)); }
+    const F* weights(int y) const { return rowTaps_.weights(position(y)); }
     auto sourceFrom(int low) const {
         return [this, low](int row) { return tile_.source(row, low, pixelBytes); };
     }
@@ -78,26 +79,43 @@ private:
         return rows;
     }
 
+    // The last source rows that were resized along, as many as there are slots: a power of two.
+    struct Ring {
+        const uint8_t* place[2 * kRingSlots];  // twice, so that rows in sequence have places in sequence
+        uint8_t* rows;
+        ptrdiff_t step;
+        int slots, end = INT_MIN;  // end: behind the last row
+
+        Ring(uint8_t* rows, int slots, ptrdiff_t samples) : rows(rows), step(stepOf(samples)), slots(slots) {
+            for (int i = 0; i < 2 * slots; ++i) place[i] = at(i);
+        }
+        // An odd number of lines, for the cache.
+        static constexpr ptrdiff_t stepOf(ptrdiff_t samples) { return ((samples * ptrdiff_t(sizeof(F)) / 64 + 1) | 1) * 64; }
+        uint8_t* at(int row) const { return rows + (row & (slots - 1)) * step; }
+        const uint8_t* const* from(int row) const { return place + (row & (slots - 1)); }
+    };
+
     void rowsFirst(int x) {
         const int first = strip_.first, last = strip_.last, low = tile_.columns(first), high = tile_.columns(last);
         const ptrdiff_t samples = ptrdiff_t(high - low + 1) * C;
         for (int y = 0, n; y < tile_.size.height; y += n) {
-            n = rowsTogether(y, kMostSources);
-            RowGroup<F> group(spec_, position(y), n);
+            n = rowTaps_.rowsWithin(position(y), std::min(kGroupRows, tile_.size.height - y), kMostSources);
+            RowGroup<F> group(rowTaps_, position(y), n);
             group.setRows(sourceFrom(low));
-            prefetchSource(y + n, group.first + group.sources, low, samples * ptrdiff_t(sizeof(T)));
-            if constexpr (sideBySide) {
-                constexpr int column = Picker<F>::lanes;
-                sumRows<T>(group, samples, LaneColumns<C>(rows_ + ptrdiff_t(low - first) * column));
-                extend<column>(rows_, first, low, high, last);
-                strip_.template apply<C>(rows_, destination(x, y, n));
-            } else {
-                RowsOf<F> sums{{}, n};
-                for (int r = 0; r < n; ++r) sums.p[r] = reinterpret_cast<uint8_t*>(rows_ + r * rowStride + ptrdiff_t(low - first) * C);
-                sumRows<T>(group, samples, sums);
-                for (int r = 0; r < n; ++r) extend<C>(rows_ + r * rowStride, first, low, high, last);
-                strip_.template apply<C>(rows_, rowStride, destination(x, y, n));
-            }
+            prefetchSource(y + n, n, low, samples * ptrdiff_t(sizeof(T)));
+            if constexpr (C > 1 && sizeof(F) == 4)
+                if (F* columns = strip_.sideBySide()) {
+                    constexpr int column = Picker<F>::lanes;
+                    sumRows<T>(group, samples, LaneColumns<C>(columns + ptrdiff_t(low - first) * column));
+                    extend<column>(columns, first, low, high, last);
+                    strip_.template applySideBySide<C>(destination(x, y, n));
+                    continue;
+                }
+            SumRows<F> sums{{{}, n}};
+            for (int r = 0; r < n; ++r) sums.p[r] = reinterpret_cast<uint8_t*>(rows_ + r * rowStride + ptrdiff_t(low - first) * C);
+            sumRows<T>(group, samples, sums);
+            for (int r = 0; r < n; ++r) extend<C>(rows_ + r * rowStride, first, low, high, last);
+            strip_.template apply<C>(rows_, rowStride, destination(x, y, n));
         }
     }
 
@@ -110,9 +128,9 @@ private:
         auto* rows = reinterpret_cast<int16_t*>(rows_);
         const int bits = spec_.x.wholeBits, begin = lessThanWhole(spec_.y) << bits;
         for (int y = 0, n; y < tile_.size.height; y += n) {
-            n = WholeGroup::rowsWithin(spec_, position(y), std::min(kGroupRows, tile_.size.height - y));
-            prefetchSource(y + n, spec_.firstTap(spec_.y, position(y + n - 1)) + spec_.y.taps, low, samples);
-            WholeGroup(spec_, position(y), n, sourceFrom(low)).sum(samples, rows + ptrdiff_t(low - first) * C, stride);
+            n = WholeGroup::rowsWithin(rowTaps_, position(y), std::min(kGroupRows, tile_.size.height - y));
+            prefetchSource(y + n, n, low, samples);
+            WholeGroup(spec_.y, rowTaps_, position(y), n, sourceFrom(low)).sum(samples, rows + ptrdiff_t(low - first) * C, stride);
             for (int r = 0; r < n; ++r) extend<C>(rows + r * stride, first, low, high, last);
             strip_.template applyWhole<C>(rows, stride, begin, bits + spec_.y.wholeBits, destination(x, y, n));
         }
@@ -120,73 +138,48 @@ private:
     }
 #endif
 
-    // Rows from `row` on that the group of destination row y uses.
-    void prefetchSource(int y, int row, int low, ptrdiff_t bytes) const {
-        if (y >= tile_.size.height) return;
-        const int begin = spec_.firstTap(spec_.y, position(y)), last = std::min(y + kGroupRows, tile_.size.height) - 1;
-        const int end = std::min(spec_.firstTap(spec_.y, position(last)) + spec_.y.taps, begin + kMostSources);
-        for (row = std::max(row, begin); row < end; ++row) prefetch(tile_.source(row, low, pixelBytes), bytes);
+    // Source rows that n destination rows from y on use, and those before y do not.
+    void prefetchSource(int y, int n, int low, ptrdiff_t bytes) const {
+        const int end = std::min(y + n, tile_.size.height), taps = std::min(spec_.y.taps, kMostSources);
+        for (int row = firstTap(y - 1) + taps; y < end; ++y)
+            for (row = std::max(row, firstTap(y)); row < firstTap(y) + taps; ++row) prefetch(tile_.source(row, low, pixelBytes), bytes);
     }
 
     void columnsFirst(int x) {
-        Ring ring(tile_, spec_.y.taps, ptrdiff_t(strip_.pixels) * C, ring_);
+        const int taps = spec_.y.taps, end = firstTap(tile_.size.height - 1) + taps;
+        const bool dense = spec_.y.ratio() <= taps;
+        const ptrdiff_t samples = ptrdiff_t(strip_.pixels) * C;
+        Ring ring(ring_, taps + kGroupRows - 1 <= kRingSlots / 2 ? kRingSlots / 2 : kRingSlots, samples);
         for (int y = 0, n; y < tile_.size.height; y += n) {
-            n = rowsTogether(y, ring.slots);
-            RowGroup<F> group(spec_, position(y), n);
-            fill(ring, group, x);
-            group.setRows([&](int row) { return ring.place(tile_.rows(row)); });
-            for (int r = 0; r < n; ++r) tile_.prefetchDestination(y + n + r, x, strip_.pixels, pixelBytes);
-            const auto sum = [&](const auto& out) { sumRows<F>(group, ptrdiff_t(strip_.pixels) * C, out); };
+            ring.end = std::max(ring.end, firstTap(y));
+            while (ring.end < firstTap(y) + taps) resizeSourceRows(ring, dense ? end : firstTap(y) + taps, x);
+            TapRows<F> rows[kBandRows];
+            n = 0;
+            do rows[n] = {ring.from(firstTap(y + n)), weights(y + n)};
+            while (++n < kBandRows && y + n < tile_.size.height && firstTap(y + n) + taps <= ring.end);
             const RowsOf<T> out = destination(x, y, n);
-            if (tile_.streams && alignedAlike(out)) sum(RowsOf<T, StreamedRowOf>{out.p, out.count});
-            else sum(out);
+            for (int r = 0; r < n; ++r) tile_.prefetchDestination(y + n + r, x, strip_.pixels, pixelBytes);
+            if (tile_.streams && inSamples(out)) sumTaps<StreamedRowOf<T>>(rows, n, taps, samples, out.p.data());
+            else sumTaps<RowOf<T>>(rows, n, taps, samples, out.p.data());
         }
     }
 
-    // Source rows resized along, by their number.
-    struct Ring {
-        F* rows;
-        ptrdiff_t step;
-        int slots, low;
-        int held[kResizeRowGroup];
-
-        Ring(const ResizeTile& tile, int taps, ptrdiff_t samples, F* here) : rows(here), step(kStripSamples), slots(kRingRows), low(tile.rows.low) {
-            if (taps > kRingRows) {
-                rows = reinterpret_cast<F*>(tile.buffer + (-reinterpret_cast<uintptr_t>(tile.buffer) & 63));
-                step = upTo32(samples * ptrdiff_t(sizeof(F))) / ptrdiff_t(sizeof(F));
-                slots = taps;
-            }
-            std::fill(held, held + slots, INT_MIN);
-        }
-        int slot(int row) const { return slots == kRingRows ? (row - low) % kRingRows : (row - low) % slots; }
-        uint8_t* place(int row) const { return reinterpret_cast<uint8_t*>(rows + slot(row) * step); }
-    };
-
-    // Rows of the group that the ring does not hold, as many at a time as share a pass.
-    void fill(Ring& ring, const RowGroup<F>& group, int x) {
-        int row[kGroupRows];
-        RowsOf<F> out{{}, 0};
-        for (int j = 0; j < group.sources; ++j) {
-            const int wanted = tile_.rows(group.first + j);
-            int& held = ring.held[ring.slot(wanted)];
-            if (held == wanted || group.used(j) == 0) continue;
-            held = wanted;
-            row[out.count] = wanted;
-            out.p[out.count++] = ring.place(wanted);
-            if (out.count == kGroupRows) resizeSourceRows(row, x, out), out.count = 0;
-        }
-        if (out.count > 0) resizeSourceRows(row, x, out);
+    static bool inSamples(const RowsOf<T>& rows) {
+        return std::all_of(rows.p.begin(), rows.p.begin() + rows.count, [](auto p) { return reinterpret_cast<uintptr_t>(p) % sizeof(T) == 0; });
     }
 
-    void resizeSourceRows(const int* row, int x, const RowsOf<F>& out) {
-        for (int r = 0; r < out.count; ++r) {
+    // The next rows, before row `end`, as many as share a pass.
+    void resizeSourceRows(Ring& ring, int end, int x) {
+        const int first = strip_.first, last = strip_.last, low = tile_.columns(first), high = tile_.columns(last);
+        RowsOf<F> out{{}, std::min(end - ring.end, kGroupRows)};
+        for (int r = 0; r < out.count; ++r, ++ring.end) {
+            out.p[r] = ring.at(ring.end);
             F* to = rows_ + r * rowStride;
             if (strip_.sparse) {
-                copyTaps(row[r], x, to);
+                copyTaps(ring.end, x, to);
             } else {
-                const int low = tile_.columns(strip_.first), high = tile_.columns(strip_.last);
-                convertRow<T>(tile_.source(row[r], low, pixelBytes), ptrdiff_t(high - low + 1) * C, RowOf<F>(to + ptrdiff_t(low - strip_.first) * C));
-                extend<C>(to, strip_.first, low, high, strip_.last);
+                convertRow<T>(tile_.source(ring.end, low, pixelBytes), ptrdiff_t(high - low + 1) * C, RoomyRowOf<F>(to + ptrdiff_t(low - first) * C));
+                extend<C>(to, first, low, high, last);
             }
         }
         strip_.template apply<C>(rows_, rowStride, out);
@@ -203,19 +196,13 @@ private:
         }
     }
 
-    static bool alignedAlike(const RowsOf<T>& rows) {
-        uintptr_t differences = 0;
-        for (int r = 0; r < rows.count; ++r) differences |= uintptr_t(rows.p[r] - rows.p[0]);
-        return differences % kVectorBytes == 0 && reinterpret_cast<uintptr_t>(rows.p[0]) % sizeof(T) == 0;
-    }
-
     // Sums over the rows of destination row y, however many.
     void sumColumns(int y, int low, ptrdiff_t samples, uint8_t* sums) const {
         for (int t = 0; t < spec_.y.taps; t += kMostSources) {
-            RowGroup<F> group(spec_, position(y), 1, t, std::min(spec_.y.taps - t, kMostSources));
+            RowGroup<F> group(rowTaps_, position(y), 1, t, std::min(spec_.y.taps - t, kMostSources));
             group.setRows(sourceFrom(low));
-            if (t == 0) sumRows<T>(group, samples, RowsOf<F>{{sums}, 1});
-            else sumRows<T>(group, samples, AddedRow<F>{{{sums}, 1}});
+            if (t == 0) sumRows<T>(group, samples, SumRows<F, RowOf>{{{sums}, 1}});
+            else sumRows<T>(group, samples, AddedRow<F>{{{{sums}, 1}}});
         }
     }
 

@@ -225,7 +225,7 @@ bool rowsComeFirst(const ResizeSpec& spec) {
     constexpr double alongRow = 2;
     constexpr int longTaps = 256;  // taps of a pixel that rows of a strip can hold
     if (x.ratio() > x.taps) return false;
-    if (x.taps > longTaps || y.taps > kResizeRowGroup || spec.method == kvrInterpSuper) return true;
+    if (x.taps > longTaps || y.taps > kMostKeptTaps || spec.method == kvrInterpSuper) return true;
     const double rowsPerRow = std::min<double>(y.ratio(), y.taps);
     return x.ratio() * y.taps + x.taps * alongRow < rowsPerRow * x.taps * alongRow + y.taps;
 }

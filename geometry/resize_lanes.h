@@ -66,7 +66,6 @@ public:
 
     template <class U>
     static U begin(int, ptrdiff_t) { return emptySum<U>(); }
-    static ptrdiff_t head() { return 0; }
     // Behind the last sample, up to a block is written.
     template <int vectors>
     KVRI_INLINE void put(ptrdiff_t i, const GroupSums<float, vectors>& sums, ptrdiff_t) const {
@@ -84,6 +83,28 @@ public:
         });
     }
 };
+
+// Columns of some rows' pixels side by side; up to a vector's pixels more than there are.
+template <int C>
+void placeSideBySide(const float* rows, ptrdiff_t rowStride, int count, int pixels, float* to) {
+    using Pick = Picker<float>;
+    using V = Vec<float>;
+    alignas(64) static constexpr auto lanesOfThree = [] {
+        std::array<uint32_t, Pick::lanes> a{};
+        for (int i = 0; i < Pick::lanes; ++i) a[i] = Pick::code(uint32_t(i / 4 * 3 + std::min(i % 4, 2)));
+        return a;
+    }();
+    const auto codes = load<Pick::Codes>(lanesOfThree.data());
+    for (int i = 0; i < pixels; i += kLanes) {
+        V column[kLanes];
+        unroll<kLanes>([&](auto r) KVRI_INLINE {
+            column[r] = load<V>(rows + std::min<int>(r, count - 1) * rowStride + ptrdiff_t(i) * C);
+            if constexpr (C == 3) column[r] = Pick::pick<1>(column[r], column[r], codes);
+        });
+        transposeLanes(column);
+        unroll<kLanes>([&](auto k) KVRI_INLINE { store(to + ptrdiff_t(i + k) * Pick::lanes, column[k]); });
+    }
+}
 
 // Sums of four pixels at a time, as samples of T in the group's rows.
 template <class T, int C>

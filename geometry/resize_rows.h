@@ -12,8 +12,33 @@ namespace kvri {
 // Destination rows that are summed at a time, as they share source rows.
 constexpr int kGroupRows = kLanes;
 
+// The most destination rows that are summed one after the other.
+constexpr int kBandRows = 8;
+
 // Source rows of a group.
 constexpr int kMostSources = 256;
+
+// First taps and weights of an axis' positions, at hand.
+template <class F>
+class TapsOf {
+    const int32_t* first_;
+    const F* weights_;
+    int period_, moves_, stride_;
+
+public:
+    int taps;
+
+    TapsOf(const ResizeSpec& spec, const ResizeAxis& a)
+        : first_(spec.table<int32_t>(a.index)), weights_(spec.table<F>(a.weights)), period_(a.period), moves_(a.reducedSource), stride_(a.positionStride), taps(a.taps) {}
+
+    int first(int i) const { return i < period_ ? first_[i] : i / period_ * moves_ + first_[i % period_]; }
+    const F* weights(int i) const { return weights_ + ptrdiff_t(i < period_ ? i : i % period_) * stride_; }
+    // The most positions from i on, up to n, that have no more than `sources` source positions.
+    int rowsWithin(int i, int n, int sources) const {
+        while (n > 1 && first(i + n - 1) + taps - first(i) > sources) --n;
+        return n;
+    }
+};
 
 // The sums of a group of destination rows: source row j with its weight for each of them that uses it.
 template <class F>
@@ -26,25 +51,19 @@ public:
     int first, sources;
 
     // Destination rows from `position` on, of which `taps` taps from tap `from` on are summed.
-    RowGroup(const ResizeSpec& spec, int position, int rows, int from, int taps) : first(firstOf(spec, position) + from) {
-        sources = firstOf(spec, position + rows - 1) + from + taps - first;
+    RowGroup(const TapsOf<F>& y, int position, int rows, int from, int taps) : first(y.first(position) + from) {
+        sources = y.first(position + rows - 1) + from + taps - first;
         std::fill_n(used_, sources, uint8_t(0));
         for (int r = 0; r < rows; ++r) {
-            const int begin = firstOf(spec, position + r) + from - first;
-            const F* weight = spec.weightsOf<F>(spec.y, position + r) + from;
+            const int begin = y.first(position + r) + from - first;
+            const F* weight = y.weights(position + r) + from;
             for (int t = 0; t < taps; ++t) {
                 used_[begin + t] |= uint8_t(1 << r);
                 weight_[begin + t][r] = weight[t];
             }
         }
     }
-    RowGroup(const ResizeSpec& spec, int position, int rows) : RowGroup(spec, position, rows, 0, spec.y.taps) {}
-
-    // The most rows, up to `rows`, that have no more than `sources` source rows.
-    static int rowsWithin(const ResizeSpec& spec, int position, int rows, int sources) {
-        while (rows > 1 && firstOf(spec, position + rows - 1) + spec.y.taps - firstOf(spec, position) > sources) --rows;
-        return rows;
-    }
+    RowGroup(const TapsOf<F>& y, int position, int rows) : RowGroup(y, position, rows, 0, y.taps) {}
 
     // rowAt(first + j) is asked for rows that are used.
     template <class RowAt>
@@ -56,9 +75,6 @@ public:
     const uint8_t* row(int j) const { return row_[j]; }
     int used(int j) const { return used_[j]; }
     F weight(int j, int r) const { return weight_[j][r]; }
-
-private:
-    static int firstOf(const ResizeSpec& spec, int position) { return spec.firstTap(spec.y, position); }
 };
 
 // What a sum begins with: a number that leaves any first product as it is.
@@ -72,23 +88,28 @@ struct GroupSums {
     Vec<F> of[kGroupRows][vectors];
 };
 
-// Rows that a group's sums are written to as samples of T.
-template <class T, template <class> class Row = RowOf>
+// Rows that are written together, as samples of T.
+template <class T>
 struct RowsOf {
-    static constexpr int block = 4, least = 1;  // vectors of sums at a time, and of a row's rest
-    std::array<uint8_t*, kGroupRows> p;
+    std::array<uint8_t*, kBandRows> p;
     int count;
+};
+
+// Rows that a group's sums are written to.
+template <class F, template <class> class Row = RoomyRowOf>
+struct SumRows : RowsOf<F> {
+    static constexpr int block = 4, least = 1;  // vectors of sums at a time, and of a row's rest
 
     template <class V>
     static V begin(int, ptrdiff_t) { return emptySum<V>(); }
-    ptrdiff_t head() const { return Row<T>(p[0]).head(); }
     template <int vectors>
-    KVRI_INLINE void put(ptrdiff_t i, const GroupSums<RealOf<T>, vectors>& sums, ptrdiff_t samples) const {
+    KVRI_INLINE void put(ptrdiff_t i, const GroupSums<F, vectors>& sums, ptrdiff_t samples) const {
+        constexpr int lanes = kVectorBytes / sizeof(F);
         unroll<kGroupRows>([&](auto r) KVRI_INLINE {
-            if (r >= count) return;
-            const Row<T> row(p[r]);
-            if constexpr (vectors == 4) row.four(i, sums.of[r]);
-            else if (samples >= kReals<T>) row.one(i, sums.of[r][0]);
+            if (r >= this->count) return;
+            const Row<F> row(this->p[r]);
+            if constexpr (vectors == 4) samples >= 4 * lanes ? row.four(i, sums.of[r]) : row.fourPart(i, sums.of[r], samples);
+            else if (samples >= lanes) row.one(i, sums.of[r][0]);
             else row.part(i, sums.of[r][0], samples);
         });
     }
@@ -96,7 +117,7 @@ struct RowsOf {
 
 // A single row of sums to which more taps are added.
 template <class F>
-struct AddedRow : RowsOf<F> {
+struct AddedRow : SumRows<F, RowOf> {
     template <class V>
     V begin(int r, ptrdiff_t i) const { return r == 0 ? load<V>(this->p[0] + i * ptrdiff_t(sizeof(F))) : V{}; }
 };
@@ -130,16 +151,66 @@ void sumRows(const RowGroup<RealOf<T>>& group, ptrdiff_t samples, const Out& out
     constexpr std::integral_constant<int, Out::least> least{};
     const auto whole = [](const uint8_t* p, int u) KVRI_INLINE { return loadReals<T>(p + u * kPackedBytes<T>); };
     ptrdiff_t i = 0;
-    const auto rest = [&](ptrdiff_t end) KVRI_INLINE {
-        for (; end - i >= least * lanes; i += least * lanes) out.put(i, sum(least, i, whole), end - i);
-        if (i >= end) return;
-        const auto part = [&](const uint8_t* p, int u) KVRI_INLINE { return loadRealsPart<T>(p + u * kPackedBytes<T>, end - i - u * lanes); };
-        out.put(i, sum(least, i, part), end - i);
-        i = end;
-    };
-    if (const ptrdiff_t head = out.head()) rest(std::min(head, samples));
+    const auto part = [&](const uint8_t* p, int u) KVRI_INLINE { return loadRealsPart<T>(p + u * kPackedBytes<T>, samples - i - u * lanes); };
     for (; samples - i >= block * lanes; i += block * lanes) out.put(i, sum(block, i, whole), samples - i);
+    for (; samples - i >= least * lanes; i += least * lanes) out.put(i, sum(least, i, whole), samples - i);
+    if (i < samples) out.put(i, sum(least, i, part), samples - i);
+}
+
+// Rows of numbers that a destination row is summed from.
+template <class F>
+struct TapRows {
+    const uint8_t* const* row;
+    const F* weight;
+};
+
+// The sums over the first `samples` of the rows, which may be read some vectors further. Taps: the count of taps, or 0 for any.
+template <int Taps, class F, class Out>
+KVRI_INLINE inline void sumTaps(const TapRows<F>& rows, int taps, ptrdiff_t samples, Out out) {
+    using V = Vec<F>;
+    constexpr int lanes = kVectorBytes / sizeof(F), kept = std::max(Taps, 1);
+    const uint8_t* row[kept];
+    V weight[kept];
+    unroll<kept>([&](auto t) KVRI_INLINE { row[t] = rows.row[t], weight[t] = splat<V>(rows.weight[t]); });
+    ptrdiff_t i = 0;
+    const auto block = [&](auto vectors, auto put) KVRI_INLINE {
+        const ptrdiff_t at = i * ptrdiff_t(sizeof(F));
+        V acc[vectors];
+        unroll<vectors>([&](auto u) KVRI_INLINE { acc[u] = load<V>(row[0] + at + u * kVectorBytes) * weight[0]; });
+        const auto add = [&](const uint8_t* p, V w) KVRI_INLINE {
+            unroll<vectors>([&](auto u) KVRI_INLINE { acc[u] = acc[u] + load<V>(p + at + u * kVectorBytes) * w; });
+        };
+        if constexpr (Taps > 0) unroll<Taps - 1>([&](auto t) KVRI_INLINE { add(row[t + 1], weight[t + 1]); });
+        else for (int t = 1; t < taps; ++t) add(rows.row[t], splat<V>(rows.weight[t]));
+        put(acc);
+        i += vectors * lanes;
+    };
+    constexpr std::integral_constant<int, 4> four{};
+    constexpr std::integral_constant<int, 1> one{};
+    const auto rest = [&](ptrdiff_t end) KVRI_INLINE {
+        if (end - i > 2 * lanes) block(four, [&](const V (&v)[4]) KVRI_INLINE { out.fourPart(i, v, end - i); });
+        while (end - i >= lanes) block(one, [&](const V (&v)[1]) KVRI_INLINE { out.one(i, v[0]); });
+        if (i < end) block(one, [&](const V (&v)[1]) KVRI_INLINE { out.part(i, v[0], end - i); });
+    };
+    if (const ptrdiff_t head = std::min(out.head(), samples)) rest(head), i = head;
+    while (samples - i >= 4 * lanes) block(four, [&](const V (&v)[4]) KVRI_INLINE { out.four(i, v); });
     rest(samples);
+}
+
+// Some destination rows one after the other, which are written as `Out`.
+template <class Out, class F>
+void sumTaps(const TapRows<F>* rows, int count, int taps, ptrdiff_t samples, uint8_t* const* out) {
+    const auto run = [&](auto known) KVRI_INLINE {
+        for (int r = 0; r < count; ++r) sumTaps<known>(rows[r], taps, samples, Out(out[r]));
+    };
+    switch (taps) {
+        case 2: return run(std::integral_constant<int, 2>{});
+        case 3: return run(std::integral_constant<int, 3>{});
+        case 4: return run(std::integral_constant<int, 4>{});
+        case 6: return run(std::integral_constant<int, 6>{});
+        case 8: return run(std::integral_constant<int, 8>{});
+        default: return run(std::integral_constant<int, 0>{});
+    }
 }
 
 // A row as samples of another type.

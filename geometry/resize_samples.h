@@ -139,9 +139,24 @@ struct RowOf {
     void one(ptrdiff_t i, V v) const { storeReals<T>(at(i), v); }
     template <class V>
     void part(ptrdiff_t i, V v, ptrdiff_t samples) const { storeRealsPart<T>(at(i), v, samples); }
+    template <class V>
+    void fourPart(ptrdiff_t i, const V (&v)[4], ptrdiff_t samples) const {
+        const uint8_t* end = at(i + samples);
+        putFourReals<T>(at(i), v, [end](uint8_t* p, auto v) KVRI_INLINE { storePart(p, v, end - p); });
+    }
 
 protected:
     uint8_t* at(ptrdiff_t i) const { return p + i * ptrdiff_t(sizeof(T)); }
+};
+
+// The same with room behind its end for the rest of a vector.
+template <class T>
+struct RoomyRowOf : RowOf<T> {
+    using RowOf<T>::RowOf;
+    template <class V>
+    void part(ptrdiff_t i, V v, ptrdiff_t) const { this->one(i, v); }
+    template <class V>
+    void fourPart(ptrdiff_t i, const V (&v)[4], ptrdiff_t) const { this->four(i, v); }
 };
 
 // The same by aligned vectors; p is a multiple of the sample's size.

@@ -83,8 +83,8 @@ struct ResizeSpec {
 
 constexpr int kWholeTaps = 8;
 
-// Source rows that are combined at a time; where a pixel has more, rows come first.
-constexpr int kResizeRowGroup = 64;
+// Taps whose rows are kept between the passes; where a pixel has more, rows come first.
+constexpr int kMostKeptTaps = 13;
 
 constexpr int kResizeFixedBytes = 192;
 static_assert(sizeof(ResizeSpec) <= kResizeFixedBytes);

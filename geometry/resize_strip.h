@@ -17,12 +17,15 @@ class Strip {
     using Pick = Picker<F>;
     using V = Vec<F>;
     static constexpr int lanes = Pick::lanes, capacity = kStripWeightBytes / int(sizeof(F));
-    // Taps of a row are picked from one or two loaded vectors, as many as these have, or come as pixels.
-    enum class Way { OneLoad, TwoLoads, PixelByPixel };
+    // Taps of a row are picked from one or two loaded vectors, as many as these have, or come as pixels: of several rows side
+    // by side, or of one.
+    enum class Way { OneLoad, TwoLoads, SideBySide, PixelByPixel };
+    static constexpr int mostColumns = (kStripRowBytes - kRowSlackBytes) / 16;
 
     alignas(64) F weight_[capacity];
     alignas(64) typename Pick::Code code_[kStripSamples + lanes];
     int32_t base_[kStripSamples];  // of each vector's samples, or of each pixel
+    alignas(64) F columns_[sizeof(F) == 4 ? (mostColumns + 4 * kLanes) * lanes : 1];  // of rows side by side
     const F* weights_;             // these, or the object's
     int taps_, stride_;            // stride: weights from tap to tap
     int perLoad_;                  // taps that are picked from the vectors at one place
@@ -33,10 +36,10 @@ public:
     int first, last, pixels;  // source columns, destination pixels
     bool sparse;              // the row holds the pixels' taps only, pixel by pixel
 
-    // The most pixels of a strip; 0 where the taps of one are too many.
-    static int pixelsPerStrip(const ResizeSpec& spec, int channels) {
+    // The most pixels of a strip, of whose rows a number takes so many bytes; 0 where the taps of one are too many.
+    static int pixelsPerStrip(const ResizeSpec& spec, int channels, int numberBytes = sizeof(F)) {
         const ResizeAxis& x = spec.x;
-        const int taps = x.taps, rowPixels = (kStripRowBytes - kRowSlackBytes) / int(sizeof(F)) / (channels == 3 ? 4 : channels);
+        const int taps = x.taps, rowPixels = (kStripRowBytes - kRowSlackBytes) / numberBytes / (channels == 3 ? 4 : channels);
         if (taps > rowPixels || taps > capacity / 4) return 0;
         const int byRow = int((rowPixels - taps) / std::min<double>(x.ratio() + 1, taps)) + 1;
         const int perTap = capacity / taps, byWeights = perTap < 16 ? perTap / 4 * 4 : perTap / 16 * 16 / channels;
@@ -44,13 +47,12 @@ public:
         return n >= 16 ? n / 16 * 16 : n;
     }
 
-    // sideBySide: rows are given as columns of a group's pixels.
     template <int C>
-    void prepare(const ResizeSpec& spec, int position, int count, bool sideBySide) {
+    void prepare(const ResizeSpec& spec, int position, int count) {
         int32_t place[kStripSamples + lanes];
         placeTaps(spec, position, count, place);
-        if (!sideBySide) way_ = wayFor(makeCodes<C>(place), C);
-        if (sideBySide || way_ == Way::PixelByPixel) {
+        way_ = wayFor(makeCodes<C>(place), C);
+        if (way_ == Way::SideBySide || way_ == Way::PixelByPixel) {
             std::copy(place, place + (count + 3) / 4 * 4, base_);
             setWeights<1>(spec, position);
         } else {
@@ -72,10 +74,30 @@ public:
     }
 #endif
 
+    // Where the rows' pixels may be put side by side, or null.
+    F* sideBySide() { return way_ == Way::SideBySide ? columns_ : nullptr; }
+    template <int C, class T>
+    void applySideBySide(const RowsOf<T>& out) const {
+        if (alike_) applyColumns<C, T, true>(out);
+        else applyColumns<C, T, false>(out);
+    }
+
     // Horizontal pass of some rows of the strip's columns, `rowStride` numbers apart.
     template <int C, class T>
-    void apply(const F* row, ptrdiff_t rowStride, const RowsOf<T>& out) const {
-        eachTogether(out.count, [&](auto rows, int r) KVRI_INLINE { applyTogether<C, rows, T>(row + r * rowStride, rowStride, &out.p[r]); });
+    void apply(const F* row, ptrdiff_t rowStride, const RowsOf<T>& out) {
+        if constexpr (C > 1 && sizeof(F) == 4)
+            if (way_ == Way::SideBySide) {
+                placeSideBySide<C>(row, rowStride, out.count, sparse ? pixels * taps_ : last - first + 1, columns_);
+                return applySideBySide<C, T>(out);
+            }
+        if (way_ == Way::OneLoad) return applyVectors<1, T>(row, rowStride, C, out);
+        if (way_ == Way::TwoLoads) return applyVectors<2, T>(row, rowStride, C, out);
+        alignas(64) F sums[kStripSamples + 16 / sizeof(F)];
+        for (int r = 0; r < out.count; ++r) {
+            if constexpr (C == 1) sumSinglePixels(row + r * rowStride, sums);
+            else sumPixels<C>(row + r * rowStride, sums);
+            convertRow<F>(reinterpret_cast<const uint8_t*>(sums), pixels * C, RowOf<T>(out.p[r]));
+        }
     }
 
 #if defined(__AVX512BW__)
@@ -86,27 +108,17 @@ public:
     }
 #endif
 
-    // The same of a group's columns side by side.
-    template <int C, class T>
-    void apply(const F* columns, const RowsOf<T>& out) const {
-        if (alike_) applyColumns<C, T, true>(columns, out);
-        else applyColumns<C, T, false>(columns, out);
-    }
-
 private:
-    // Calls run(4, 2 or 1 as a constant, first row) for so many rows of `count` at a time.
+    // Calls run(kGroupRows or 1 as a constant, first row) for so many rows of `count` at a time.
     template <class Run>
     KVRI_INLINE static void eachTogether(int count, Run run) {
         int r = 0;
-        unroll<3>([&](auto k) KVRI_INLINE {
-            constexpr int together = 4 >> k;
-            if constexpr (together <= kGroupRows)
-                for (; count - r >= together; r += together) run(std::integral_constant<int, together>{}, r);
-        });
+        for (; count - r >= kGroupRows; r += kGroupRows) run(std::integral_constant<int, kGroupRows>{}, r);
+        for (; r < count; ++r) run(std::integral_constant<int, 1>{}, r);
     }
 
     template <int C, class T, bool alike>
-    void applyColumns(const F* columns, const RowsOf<T>& out) const {
+    void applyColumns(const RowsOf<T>& out) const {
         const LanePixels<T, C> sums(out.p.data(), out.count, pixels);
         for (int i = 0; i < pixels; i += 4) {
             V acc[4];
@@ -115,7 +127,7 @@ private:
                 const F* w = weights_ + ptrdiff_t(t) * stride_ + i;
                 const V first = splat<V>(w[0]);
                 unroll<4>([&](auto k) KVRI_INLINE {
-                    acc[k] = acc[k] + load<V>(columns + ptrdiff_t(base_[i + k] + t) * lanes) * (alike ? first : splat<V>(w[k]));
+                    acc[k] = acc[k] + load<V>(columns_ + ptrdiff_t(base_[i + k] + t) * lanes) * (alike ? first : splat<V>(w[k]));
                 });
             }
             sums.put(i, acc);
@@ -200,9 +212,11 @@ private:
 
     Way wayFor(int reach, int channels) {
         const int allTaps = reach + (taps_ - 1) * channels;
-        if (reach >= 2 * lanes || taps_ * wholeVectors(pixels * channels) > capacity) return Way::PixelByPixel;
         perLoad_ = allTaps < 2 * lanes ? taps_ : (2 * lanes - 1 - reach) / channels + 1;
-        return allTaps < lanes ? Way::OneLoad : Way::TwoLoads;
+        const bool columns = channels > 1 && sizeof(F) == 4;
+        if (reach >= 2 * lanes || taps_ * wholeVectors(pixels * channels) > capacity) return columns ? Way::SideBySide : Way::PixelByPixel;
+        if (allTaps < lanes) return Way::OneLoad;
+        return columns && perLoad_ <= 2 && perLoad_ < taps_ ? Way::SideBySide : Way::TwoLoads;
     }
 
 #if defined(__AVX512BW__)
@@ -267,7 +281,7 @@ private:
                 });
                 codes += 2 * C * both;
             });
-            unroll<rows>([&](auto r) KVRI_INLINE { put(r, toNearest(toFloats(acc[r]) * unit)); });
+            unroll<rows>([&](auto r) KVRI_INLINE { put(r, loadedOnce(toNearest(toFloats(acc[r]) * unit))); });
         };
         eachVector<rows, uint8_t, Vec<int32_t>>(pixels * C, sum, out);
     }
@@ -299,31 +313,30 @@ private:
         }
     }
 
-    // `rows` rows at once, as they share codes and weights.
-    template <int C, int rows, class T>
-    void applyTogether(const F* row, ptrdiff_t rowStride, uint8_t* const* out) const {
-        if (way_ == Way::OneLoad) return applyVectors<1, rows, T>(row, rowStride, pixels * C, C, out);
-        if (way_ == Way::TwoLoads) return applyVectors<2, rows, T>(row, rowStride, pixels * C, C, out);
-        alignas(64) F sums[kStripSamples + 16 / sizeof(F)];
-        for (int r = 0; r < rows; ++r) {
-            if constexpr (C == 1) sumSinglePixels(row + r * rowStride, sums);
-            else sumPixels<C>(row + r * rowStride, sums);
-            convertRow<F>(reinterpret_cast<const uint8_t*>(sums), pixels * C, RowOf<T>(out[r]));
+    template <int Reach, class T>
+    void applyVectors(const F* row, ptrdiff_t rowStride, int tapStep, const RowsOf<T>& out) const {
+        const auto run = [&](auto taps) { applyTaps<Reach, taps, T>(row, rowStride, tapStep, out); };
+        switch (taps_) {
+            case 2: return run(std::integral_constant<int, 2>{});
+            case 3: return run(std::integral_constant<int, 3>{});
+            case 4: return run(std::integral_constant<int, 4>{});
+            case 6: return run(std::integral_constant<int, 6>{});
+            default: return run(std::integral_constant<int, 0>{});
         }
     }
 
-    template <int Reach, int rows, class T>
-    void applyVectors(const F* row, ptrdiff_t rowStride, int samples, int tapStep, uint8_t* const* out) const {
-        switch (perLoad_ >= taps_ ? taps_ : 0) {
-            case 2: return applyTaps<Reach, rows, 2, T>(row, rowStride, samples, tapStep, out);
-            case 4: return applyTaps<Reach, rows, 4, T>(row, rowStride, samples, tapStep, out);
-            default: return applyTaps<Reach, rows, 0, T>(row, rowStride, samples, tapStep, out);
-        }
+    // Rows together share codes and weights.
+    template <int Reach, int Taps, class T>
+    void applyTaps(const F* row, ptrdiff_t rowStride, int tapStep, const RowsOf<T>& out) const {
+        const int samples = pixels * tapStep;
+        eachTogether(out.count, [&](auto rows, int r) KVRI_INLINE {
+            sumVectors<Reach, rows, Taps, T>(row + r * rowStride, rowStride, samples, tapStep, &out.p[r]);
+        });
     }
 
-    // Taps: their number, where all are picked from the vectors at one place, or 0.
+    // Taps: their number, or 0 for any.
     template <int Reach, int rows, int Taps, class T>
-    void applyTaps(const F* row, ptrdiff_t rowStride, int samples, int tapStep, uint8_t* const* out) const {
+    KVRI_INLINE void sumVectors(const F* row, ptrdiff_t rowStride, int samples, int tapStep, uint8_t* const* out) const {
         using Codes = typename Pick::Codes;
         const Codes next = splat<Codes>(Pick::step(tapStep));
         const auto sum = [&](int s, auto put) KVRI_INLINE {
@@ -342,16 +355,15 @@ private:
                 unroll<rows>([&](auto r) KVRI_INLINE { acc[r] = acc[r] + Pick::template pick<Reach>(a[r], b[r], codes) * weight; });
             };
             Codes codes = begin;
-            if constexpr (Taps > 0) {
-                loadFrom(0);
-                unroll<Taps>([&](auto t) KVRI_INLINE { add(t, codes), codes += next; });
-            } else {
-                for (int first = 0; first < taps_; first += perLoad_, codes = begin) {
-                    loadFrom(first);
-                    for (int t = first; t < std::min(first + perLoad_, taps_); ++t, codes += next) add(t, codes);
-                }
-            }
-            unroll<rows>([&](auto r) KVRI_INLINE { put(r, acc[r]); });
+            int nextLoad = 0;
+            const auto addNext = [&](int tap) KVRI_INLINE {
+                if (tap == nextLoad) loadFrom(tap), codes = begin, nextLoad += perLoad_;
+                add(tap, codes), codes += next;
+            };
+            if constexpr (Taps > 0) unroll<Taps>([&](auto t) KVRI_INLINE { addNext(t); });
+            else for (int t = 0; t < taps_; ++t) addNext(t);
+            // Sums are made here, or the compiler makes all of them where they are written, and keeps what was picked on the stack.
+            unroll<rows>([&](auto r) KVRI_INLINE { put(r, loadedOnce(acc[r])); });
         };
         eachVector<rows, T>(samples, sum, out);
     }

@@ -25,16 +25,15 @@ class WholeGroup {
 
 public:
     template <class RowAt>
-    WholeGroup(const ResizeSpec& spec, int position, int rows, RowAt rowAt) : rows_(rows), begin_(uint16_t(-lessThanWhole(spec.y))) {
-        const ResizeAxis& y = spec.y;
-        const int first = spec.firstTap(y, position), end = spec.firstTap(y, position + rows - 1) + y.taps;
+    WholeGroup(const ResizeAxis& y, const TapsOf<float>& of, int position, int rows, RowAt rowAt) : rows_(rows), begin_(uint16_t(-lessThanWhole(y))) {
+        const int first = of.first(position), end = of.first(position + rows - 1) + y.taps;
         sources_ = end - first;
         std::fill_n(used_, sources_, uint8_t(0));
         for (int j = 0; j <= sources_; ++j) row_[j] = rowAt(std::min(first + j, end - 1));
         for (int r = 0; r < rows; ++r) {
-            const int begin = spec.firstTap(y, position + r) - first;
+            const int begin = of.first(position + r) - first;
             uint16_t pair[kWholeTaps / 2];
-            wholePairs(spec.weightsOf<float>(y, position + r), y, pair);
+            wholePairs(of.weights(position + r), y, pair);
             for (int t = 0; t < y.taps; t += 2) {
                 used_[begin + t] |= uint8_t(1 << r);
                 pair_[begin + t][r] = int32_t(pair[t / 2] * 0x10001u);
@@ -43,7 +42,7 @@ public:
     }
 
     // The most rows that a group may have.
-    static int rowsWithin(const ResizeSpec& spec, int position, int rows) { return RowGroup<float>::rowsWithin(spec, position, rows, kMostPairs); }
+    static int rowsWithin(const TapsOf<float>& of, int position, int rows) { return of.rowsWithin(position, rows, kMostPairs); }
 
     // Row r of the sums lies at out + r * stride. Writes up to a whole block behind the last sample.
     void sum(ptrdiff_t samples, int16_t* out, ptrdiff_t stride) const {
