@@ -235,15 +235,15 @@ constexpr bool kWholeNumbers = false;
 #endif
 
 // Exactly half or twice the size; false, with nothing done, where it is not or no kernel has as many taps.
-template <class T>
+template <class T, int C>
 bool octaveDown(const ResizeTile& tile) {
     const ResizeSpec& spec = tile.spec;
     if (!spec.halves() || spec.x.taps != spec.y.taps) return false;
     switch (spec.x.taps) {
-        case 4: OctaveDown<T, 4>(tile).run(); return true;
-        case 6: OctaveDown<T, 6>(tile).run(); return true;
-        case 8: OctaveDown<T, 8>(tile).run(); return true;
-        case 12: OctaveDown<T, 12>(tile).run(); return true;
+        case 4: OctaveDown<T, C, 4>(tile).run(); return true;
+        case 6: OctaveDown<T, C, 6>(tile).run(); return true;
+        case 8: OctaveDown<T, C, 8>(tile).run(); return true;
+        case 12: OctaveDown<T, C, 12>(tile).run(); return true;
         default: return false;
     }
 }
@@ -261,9 +261,7 @@ bool octaveUp(const ResizeTile& tile) {
 
 template <class T, int C>
 bool octave(const ResizeTile& tile) {
-    if constexpr (C == 1)
-        if (octaveDown<T>(tile)) return true;
-    return octaveUp<T, C>(tile);
+    return octaveDown<T, C>(tile) || octaveUp<T, C>(tile);
 }
 
 // A function of its own, so that halving needs no large frame.
