@@ -147,6 +147,8 @@ private:
         const bool together = C == 4 || (C == 3 ? source <= destination : 3 * source <= 5 * destination);
         tapByTap_ = !(together && placer.place(true)) && !(source < 5 * destination && placer.place(false));
         if (!tapByTap_) return;
+        if (taps_.samples < kTapSamples)
+            for (auto& row : pixels_) std::memset(row, 0, 2 * kTapSamples + 64);  // what is not copied is computed as well
         for (int i = 0; i < count; ++i) {
             left_[i] = std::min(tile_.columns(index[i]) - first_, last) * C;
             right_[i] = std::min(tile_.columns(index[i] + 1) - first_, last) * C;
