@@ -261,7 +261,8 @@ bool octaveUp(const ResizeTile& tile) {
 
 template <class T, int C>
 bool octave(const ResizeTile& tile) {
-    return octaveDown<T, C>(tile) || octaveUp<T, C>(tile);
+    if constexpr (C > 1 && kVectorBytes == 16) return false;  // a vector is hardly more than a pixel: the general way
+    else return octaveDown<T, C>(tile) || octaveUp<T, C>(tile);
 }
 
 // A function of its own, so that halving needs no large frame.
