@@ -15,7 +15,11 @@
 #include <type_traits>
 #include <utility>
 
+#if defined(__SANITIZE_ADDRESS__)
+#define KVRI_INLINE  // checks of everything inlined make functions that take minutes to compile
+#else
 #define KVRI_INLINE __attribute__((always_inline))
+#endif
 
 namespace kvri {
 
