@@ -58,8 +58,26 @@ struct ResizeCall {
     KvriBorderType border;
     uint8_t* buffer;
     bool streams;  // the destination is written past the caches
+    bool far;      // rows lie in more pages than the processor has at hand
 
     uint8_t* destination(int y, int x, ptrdiff_t pixelBytes) const { return dst + y * dstStep + x * pixelBytes; }
+    ResizeCall rows(int y, int height) const {
+        ResizeCall part = *this;
+        part.offset.y += y, part.size.height = height;
+        part.src += (spec.origin(spec.y, part.offset.y) - spec.origin(spec.y, offset.y)) * srcStep;
+        part.dst += y * dstStep;
+        return part;
+    }
+    // Whether vectors may be streamed from byte `begin` of each destination row on.
+    template <int W = kVectorBytes>
+    bool streamsVectors(ptrdiff_t begin = 0) const {
+        return streams && ((reinterpret_cast<uintptr_t>(dst + begin) | uintptr_t(dstStep)) & (W - 1)) == 0;
+    }
+    // The width of strips of columns: of about the same, so that none is short.
+    int stripWidth(int most) const {
+        const int width = size.width;
+        return width > most ? (width + width / most) / (width / most + 1) : width;
+    }
     // For pixels x to x + n - 1 to be written some rows later.
     void prefetchDestination(int y, int x, int n, ptrdiff_t pixelBytes) const {
         if (y < size.height && !streams) prefetch(destination(y, x, pixelBytes), n * pixelBytes);
@@ -82,6 +100,29 @@ struct ResizeTile : ResizeCall {
     }
 };
 
+// Column `column` of the source rows that are there.
+struct SourceColumn {
+    const uint8_t* top;
+    ptrdiff_t step;
+
+    SourceColumn(const ResizeTile& tile, int column, ptrdiff_t pixelBytes)
+        : top(tile.src - tile.origin.y * tile.srcStep + (ptrdiff_t(column) - tile.origin.x) * pixelBytes), step(tile.srcStep) {}
+    const uint8_t* operator[](int row) const { return top + row * step; }
+};
+
+// Ways that work by strips of columns go through all rows again and again: where these are far, some rows at a time.
+template <class Run>
+void inTurns(const ResizeCall& call, Run run) {
+    constexpr int turn = 128;
+    const int height = call.size.height, rows = call.far ? turn : height;
+    for (int y = 0; y < height; y += rows) run(call.rows(y, std::min(rows, height - y)));
+}
+
+inline bool farRows(const ResizeSpec& spec, int height, int srcStep, int dstStep) {
+    constexpr double bytesAtHand = 0x800000;
+    return height * (std::abs(double(dstStep)) + spec.y.ratio() * std::abs(double(srcStep))) > bytesAtHand;
+}
+
 // The body of an apply function: checks, then run(call), or run(tile).
 // A destination is streamed where `Held` times its bytes exceed the cache.
 template <int C, int Held = 4, class T, class Run>
@@ -95,7 +136,7 @@ KvrStatus applyResize(const Accepts& accepts, Run run, const T* pSrc, int srcSte
     const KvriSize size = clipped(spec, dstOffset, dstSize);
     const bool streams = exceedsCache(size, Held * pixelBytes);
     run(ResizeCall{spec, reinterpret_cast<const uint8_t*>(pSrc), srcStep, reinterpret_cast<uint8_t*>(pDst), dstStep, dstOffset, size, border,
-                   pBuffer, streams});
+                   pBuffer, streams, farRows(spec, size.height, srcStep, dstStep)});
     if (streams) fenceStreams();
     return withinDestination(spec, dstSize);
 }

@@ -28,8 +28,7 @@ public:
     explicit Doubler(const ResizeTile& tile) : tile_(tile) {}
 
     void run() {
-        const bool aligned = (reinterpret_cast<uintptr_t>(tile_.dst) | uintptr_t(tile_.dstStep)) % kVectorBytes == 0;
-        if (tile_.streams && aligned && taken == lanes) strips<true>();
+        if (taken == lanes && tile_.streamsVectors()) strips<true>();
         else strips<false>();
     }
 
@@ -90,11 +89,7 @@ private:
     }
 
     void fetch(int row, int first, int columns) {
-        float* p = rows_[row & 1];
-        const int low = tile_.columns(first - 1), high = tile_.columns(first + columns);
-        convertRow<T>(tile_.source(tile_.rows(row), low, pixelBytes), (high - low + 1) * C, RowOf<float>(p + (low - first + 1) * C));
-        if (low == first) std::copy_n(p + C, C, p);
-        if (high < first + columns) std::copy_n(p + columns * C, C, p + (columns + 1) * C);
+        fetchRow<T, C>(tile_, row, first - 1, first + columns, rows_[row & 1]);
     }
 
     // give(s, samples from 2 * taken * n on in two vectors): what is there behind 2 * taken of them is given again.

@@ -32,13 +32,12 @@ public:
 private:
     // Where a strip's source columns come from: `columns` of them from `low` on, the first and the last perhaps repeated.
     struct SourceColumns {
-        const uint8_t* top;  // column `low` of row 0
+        SourceColumn rows;  // from column `low` on
         ptrdiff_t bytes;
         bool before, behind;
 
-        SourceColumns(const ResizeTile& tile, int first, int last) {
+        SourceColumns(const ResizeTile& tile, int first, int last) : rows(tile, tile.columns(first), C) {
             const int low = tile.columns(first), high = tile.columns(last);
-            top = tile.src - tile.origin.y * tile.srcStep + (ptrdiff_t(low) - tile.origin.x) * C;
             bytes = ptrdiff_t(high - low + 1) * C;
             before = low > first, behind = last > high;
         }
@@ -65,7 +64,7 @@ private:
         const auto copyNext = [&]() KVRI_INLINE {
             if (copied == lastRow) return;
             ++copied;
-            columns.copy(columns.top + copied * tile_.srcStep, sourceRow(copied));
+            columns.copy(columns.rows[copied], sourceRow(copied));
         };
         const int column = x - tile_.offset.x + before / C;
         const bool aligned = ((reinterpret_cast<uintptr_t>(tile_.destination(0, column, C)) | uintptr_t(tile_.dstStep)) & (kVectorBytes - 1)) == 0;

@@ -36,14 +36,10 @@ public:
     }
 
     void run() {
-        constexpr int most = mostGroups * groupSamples / C;
-        const int width = tile_.size.width;
-        int strip = width;  // of about the same width, so that none is short
-        if (width > most) strip = (width + width / most) / (width / most + 1);
+        const int width = tile_.size.width, strip = tile_.stripWidth(mostGroups * groupSamples / C);
         for (int x = 0; x < width; x += strip) {
             prepare(x, std::min(strip, width - x));
-            const uint8_t* top = tile_.src - tile_.origin.y * tile_.srcStep + (ptrdiff_t(first_) - tile_.origin.x) * C;
-            bands(top, x);
+            bands(SourceColumn(tile_, first_, C), x);
         }
     }
 
@@ -127,19 +123,18 @@ private:
     }
 
     // Rows side by side are streamed later than rows one by one: where three halves of the destination exceed the cache.
-    bool streams(const uint8_t* dst) const {
-        if (!tile_.streams || !exceedsCache({tile_.size.width, tile_.size.height + tile_.size.height / 2}, C)) return false;
-        return (reinterpret_cast<uintptr_t>(dst) | uintptr_t(tile_.dstStep)) % kVectorBytes == 0;
+    bool streams(int begin) const {
+        return tile_.streamsVectors(begin) && exceedsCache({tile_.size.width, tile_.size.height + tile_.size.height / 2}, C);
     }
 
-    void bands(const uint8_t* top, int x) const {
+    void bands(const SourceColumn& source, int x) const {
         const int begin = tile_.offset.y, end = begin + tile_.size.height, atATime = pairsAtATime();
-        const bool streamed = streams(tile_.destination(0, x, C));
+        const bool streamed = streams(x * C);
         // Source rows i - 1 and i give destination rows 2i - 1 and 2i.
         for (int i = (begin + 1) / 2; 2 * i - 1 < end; i += atATime) {
             const uint8_t* row[mostPairs + 1];
             const int pairs = std::min(atATime, end / 2 - i + 1), firstRow = 2 * i - 1 - begin;
-            for (int k = 0; k <= pairs; ++k) row[k] = top + tile_.rows(i - 1 + k) * tile_.srcStep;
+            for (int k = 0; k <= pairs; ++k) row[k] = source[tile_.rows(i - 1 + k)];
             const Rows to{tile_.destination(firstRow, x, C), tile_.dstStep, streamed};
             for (int group = 0; group < groups(); ++group) {
                 if (bytes_ >= kVectorBytes) band(group, row, pairs, firstRow, to, [](const uint8_t* p, ptrdiff_t) KVRI_INLINE { return load<Bytes<>>(p); });

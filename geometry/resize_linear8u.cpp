@@ -18,7 +18,7 @@ namespace {
 
 // What some destination rows are made of.
 struct RowPairs {
-    static constexpr int most = 32;
+    static constexpr int most = 16;
 
     const uint8_t* source;  // row 0
     ptrdiff_t sourceStep;
@@ -101,8 +101,6 @@ void sumRows(const TapTables& taps, const RowPairs& pairs, uint8_t* dst, ptrdiff
     }
 }
 
-constexpr int kTurnRows = 256;  // pages of so many rows at a time
-
 // Strips of destination columns, by tables.
 template <int C>
 class LinearResizer {
@@ -121,14 +119,11 @@ public:
     explicit LinearResizer(const ResizeTile& tile) : tile_(tile) {}
 
     void run() {
-        const int width = tile_.size.width, height = tile_.size.height;
-        int strip = width;  // strips of about the same width, so that none is short
-        if (width > most) strip = (width + width / most) / (width / most + 1);
-        for (int y = 0; y < height; y += kTurnRows)
-            for (int x = 0; x < width; x += strip) {
-                prepare(x, std::min(strip, width - x));
-                runStrip(x, y, std::min(height, y + kTurnRows));
-            }
+        const int width = tile_.size.width, strip = tile_.stripWidth(most);
+        for (int x = 0; x < width; x += strip) {
+            prepare(x, std::min(strip, width - x));
+            runStrip(x);
+        }
     }
 
 private:
@@ -169,29 +164,31 @@ private:
         }
     }
 
-    // Of rows whose parts lie in the same set of the first-level cache, as many as it holds with their source rows.
+    // As many rows as the processor foresees or the caches hold; of rows whose parts lie in the same set of the first-level cache,
+    // as many as it holds with their source rows.
     int rowsAtATime() const {
-        if ((tile_.srcStep | tile_.dstStep) % 2048 != 0) return RowPairs::most;
+        const int rows = tile_.far ? 4 : RowPairs::most;
+        if ((tile_.srcStep | tile_.dstStep) % 2048 != 0) return rows;
         constexpr int held = 9;
         const int64_t source = spec_.y.reducedSource, destination = spec_.y.reducedDestination;
-        return std::max(1, int(held * destination / (source + destination)));
+        return std::clamp(int(held * destination / (source + destination)), 1, rows);
     }
 
-    void runStrip(int x, int y, int end) {
+    void runStrip(int x) {
         const int32_t* index = spec_.table<int32_t>(spec_.y.index) + tile_.offset.y;
         const int32_t* weight = spec_.table<int32_t>(spec_.y.weights) + tile_.offset.y;
         RowPairs pairs;
         pairs.alwaysNew = taps_.groups() <= 2 && 5 * int64_t(spec_.y.source) > 3 * int64_t(spec_.y.destination) ? INT_MIN : 0;
-        const uint8_t* top = tile_.src - tile_.origin.y * tile_.srcStep + (ptrdiff_t(first_) - tile_.origin.x) * C;
-        if (!tapByTap_) pairs.source = top, pairs.sourceStep = tile_.srcStep;
+        const SourceColumn source(tile_, first_, C);
+        if (!tapByTap_) pairs.source = source.top, pairs.sourceStep = source.step;
         else pairs.source = pixels_[0], pairs.sourceStep = sizeof pixels_[0];
         const int bandRows = tapByTap_ ? 1 : rowsAtATime();
-        for (; y < end; y += pairs.rows) {
-            pairs.rows = std::min(bandRows, end - y);
+        for (int y = 0; y < tile_.size.height; y += pairs.rows) {
+            pairs.rows = std::min(bandRows, tile_.size.height - y);
             pairs.set(index + y, weight + y, tile_.rows);
             if (tapByTap_) {
-                copyTaps(top + pairs.upper[0] * tile_.srcStep, pixels_[0]);
-                copyTaps(top + pairs.lower[0] * tile_.srcStep, pixels_[1]);
+                copyTaps(source[pairs.upper[0]], pixels_[0]);
+                copyTaps(source[pairs.lower[0]], pixels_[1]);
                 pairs.upper[0] = 0, pairs.lower[0] = 1;
             }
             sum(pairs, tile_.destination(y, x, C));
@@ -250,7 +247,7 @@ KvrStatus linear(const Kvr8u* pSrc, int srcStep, Kvr8u* pDst, int dstStep, KvriP
     const auto run = [](const ResizeCall& call) KVRI_INLINE {
         if (call.spec.halves()) Halver<Kvr8u, L::channels, Ties::Up>::run(call);
         else if (call.spec.keeps()) copyRows<L::channels>(call);
-        else resizeOther<L::channels>(call);
+        else inTurns(call, resizeOther<L::channels>);
     };
     return applyResize<L::channels>(accepts, run, pSrc, srcStep, pDst, dstStep, dstOffset, dstSize, border, pSpec, pBuffer);
 }

@@ -93,16 +93,6 @@ private:
     }
 };
 
-// Column `column` of the source rows; none is beyond the image.
-struct SourceColumn {
-    const uint8_t* top;
-    ptrdiff_t step;
-
-    SourceColumn(const ResizeTile& tile, int column, ptrdiff_t pixelBytes)
-        : top(tile.src - tile.origin.y * tile.srcStep + (ptrdiff_t(column) - tile.origin.x) * pixelBytes), step(tile.srcStep) {}
-    const uint8_t* operator[](int row) const { return top + row * step; }
-};
-
 // Calls fill(source row from `column` on, destination row from x on) for every destination row. Writing two that are alike at
 // a time would be slower: rows may lie a power of two apart.
 template <int B, class Fill>
@@ -125,8 +115,7 @@ void put(uint8_t* dst, V v) {
 // Calls run(whether vectors of W bytes at multiples of W from the begin of a row are to be streamed, as a constant).
 template <int W, class Run>
 void chooseStreaming(const ResizeTile& tile, Run run) {
-    const bool aligned = ((reinterpret_cast<uintptr_t>(tile.dst) | uintptr_t(tile.dstStep)) & (W - 1)) == 0;
-    if (tile.streams && aligned) run(std::true_type{});
+    if (tile.streamsVectors<W>()) run(std::true_type{});
     else run(std::false_type{});
 }
 
@@ -190,10 +179,7 @@ template <int B, class Tables>
 bool byStrips(const ResizeTile& tile) {
     Tables tables;
     const int32_t* index = tile.spec.table<int32_t>(tile.spec.x.index) + tile.offset.x;
-    const int width = tile.size.width;
-    constexpr int most = Tables::most / B;
-    int strip = width;  // of about the same width, so that none is short
-    if (width > most) strip = (width + width / most) / (width / most + 1);
+    const int width = tile.size.width, strip = tile.stripWidth(Tables::most / B);
     for (int x = 0; x < width; x += strip) {
         const int pixels = std::min(strip, width - x);
         if (!tables.template prepare<B>(index + x, pixels)) return false;

@@ -39,10 +39,9 @@ public:
         : tile_(tile), along_(tile.spec, tile.spec.x, tile.offset.x), across_(tile.spec, tile.spec.y, tile.offset.y) {}
 
     void run() {
-        const bool aligned = (reinterpret_cast<uintptr_t>(tile_.dst) | uintptr_t(tile_.dstStep)) % kVectorBytes == 0;
         for (int x = 0; x < tile_.size.width; x += most) {
             const int pixels = std::min(most, tile_.size.width - x);
-            if (tile_.streams && aligned && most * pixelBytes % kVectorBytes == 0) strip<StreamedRowOf<T>>(x, pixels);
+            if (most * pixelBytes % kVectorBytes == 0 && tile_.streamsVectors()) strip<StreamedRowOf<T>>(x, pixels);
             else strip<RowOf<T>>(x, pixels);
         }
     }
@@ -55,11 +54,12 @@ private:
         const KvriSize size = tile_.size;
         const int first = spec.firstTap(spec.x, offset.x + x), top = spec.firstTap(spec.y, offset.y);
         const int columns = (pixels - 1) / 2 + Taps + along_.shift, rows = (size.height - 1) / 2 + Taps + across_.shift;
-        fetch(top, first, columns, lines_[0]);
+        const auto fetch = [&](int row) { fetchRow<T, C>(tile_, top + row, first, first + columns - 1, lines_[row % 2]); };
+        fetch(0);
         for (int y = 0, filled = 0; y < size.height; y += 2) {
             for (; filled < std::min(y / 2 + Taps + across_.shift, rows); ++filled) {
                 resizeRow(lines_[filled % 2], (pixels + 1) / 2 * C, ring_[filled % (Taps + 1)]);
-                if (filled + 1 < rows) fetch(top + filled + 1, first, columns, lines_[(filled + 1) % 2]);  // well before its use
+                if (filled + 1 < rows) fetch(filled + 1);  // well before its use
             }
             if (size.height - y == 1) sumRows<1, 0>(y / 2, pixels * C, Row(tile_.destination(y, x, pixelBytes)), Row(nullptr));
             else {
@@ -68,14 +68,6 @@ private:
                 else sumRows<2, 0>(y / 2, pixels * C, even, odd);
             }
         }
-    }
-
-    void fetch(int row, int first, int columns, float* line) const {
-        const int low = tile_.columns(first), high = tile_.columns(first + columns - 1);
-        const auto at = [&](int column) { return line + ptrdiff_t(column - first) * C; };
-        convertRow<T>(tile_.source(row, low, pixelBytes), ptrdiff_t(high - low + 1) * C, RowOf<float>(at(low)));
-        for (int i = first; i < low; ++i) std::copy_n(at(low), C, at(i));
-        for (int i = high + 1; i < first + columns; ++i) std::copy_n(at(high), C, at(i));
     }
 
     void resizeRow(const float* line, int samples, float* out) const {
@@ -114,28 +106,12 @@ private:
     void sumRows(int row, ptrdiff_t samples, Row even, Row odd) const {
         const float* rows[Taps + shift];
         for (int j = 0; j < Taps + shift; ++j) rows[j] = ring_[(row + j) % (Taps + 1)];
-        const auto sum = [&](ptrdiff_t i, V (&sums)[2]) KVRI_INLINE { sumBoth<count, shift>(sums, across_, [&](int j) KVRI_INLINE { return load<V>(rows[j] + i); }); };
-        ptrdiff_t i = 0;
-        for (; samples - i >= 4 * lanes; i += 4 * lanes) {
-            V v[2][4];
-            unroll<4>([&](auto u) KVRI_INLINE {
-                V sums[2];
-                sum(i + u * lanes, sums);
-                v[0][u] = sums[0], v[1][u] = sums[1];
-            });
-            even.four(i, v[0]);
-            if constexpr (count == 2) odd.four(i, v[1]);
-        }
-        for (; i < samples; i += lanes) {
+        const auto sum = [&](ptrdiff_t i, auto put) KVRI_INLINE {
             V sums[2];
-            sum(i, sums);
-            const auto put = [&](Row to, V v) KVRI_INLINE {
-                if (samples - i >= lanes) to.one(i, v);
-                else to.part(i, v, samples - i);
-            };
-            put(even, sums[0]);
-            if constexpr (count == 2) put(odd, sums[1]);
-        }
+            sumBoth<count, shift>(sums, across_, [&](int j) KVRI_INLINE { return load<V>(rows[j] + i); });
+            unroll<count>([&](auto r) KVRI_INLINE { put(r, sums[r]); });
+        };
+        writeRows<count, V>(samples, sum, [&](int r) KVRI_INLINE { return r == 0 ? even : odd; });
     }
 };
 

@@ -4,6 +4,7 @@
 // cut into groups of rows, strips, blocks and vectors.
 #pragma once
 
+#include "geometry/resize_apply.h"
 #include "geometry/resize_samples.h"
 #include "geometry/resize_spec.h"
 
@@ -213,6 +214,17 @@ void sumTaps(const TapRows<F>* rows, int count, int taps, ptrdiff_t samples, uin
     }
 }
 
+// Columns low to high of a row that begins with column `first` are there; those beyond up to `last` repeat them.
+template <int numbers, class Number>
+inline void repeatEdges(Number* row, int first, int low, int high, int last) {
+    const auto repeat = [&](int column, int from, int to) {
+        const Number* edge = row + ptrdiff_t(column - first) * numbers;
+        for (int x = from; x < to; ++x) std::copy(edge, edge + numbers, row + ptrdiff_t(x - first) * numbers);
+    };
+    repeat(low, first, low);
+    repeat(high, high + 1, last + 1);
+}
+
 // A row as samples of another type.
 template <class T, class Out>
 void convertRow(const uint8_t* row, ptrdiff_t samples, Out out) {
@@ -226,6 +238,14 @@ void convertRow(const uint8_t* row, ptrdiff_t samples, Out out) {
     }
     for (; samples - i >= lanes; i += lanes) out.one(i, loadReals<T>(at(i)));
     if (i < samples) out.part(i, loadRealsPart<T>(at(i), samples - i), samples - i);
+}
+
+// Columns first to last of a source row as numbers, which may be followed by a vector of others.
+template <class T, int C>
+void fetchRow(const ResizeTile& tile, int row, int first, int last, RealOf<T>* to) {
+    const int low = tile.columns(first), high = tile.columns(last);
+    convertRow<T>(tile.source(row, low, C * sizeof(T)), ptrdiff_t(high - low + 1) * C, RoomyRowOf<RealOf<T>>(to + ptrdiff_t(low - first) * C));
+    repeatEdges<C>(to, first, low, high, last);
 }
 
 }  // namespace kvri

@@ -173,4 +173,18 @@ struct StreamedRowOf : AlignedRowOf<T> {
     void four(ptrdiff_t i, const Reals<T> (&v)[4]) const { putFourReals<T>(this->at(i), v, [](uint8_t* p, auto v) KVRI_INLINE { stream(p, v); }); }
 };
 
+// Rows written together: sum(i, put) gives put(r, the sums from sample i on of row r) as vectors V; row(r) is what is written.
+template <int rows, class V, class Sum, class RowAt>
+KVRI_INLINE inline void writeRows(ptrdiff_t samples, Sum sum, RowAt row) {
+    constexpr int lanes = kVectorBytes / sizeof(V{}[0]);
+    ptrdiff_t i = 0;
+    for (; samples - i >= 4 * lanes; i += 4 * lanes) {
+        V v[rows][4];
+        unroll<4>([&](auto u) KVRI_INLINE { sum(i + u * lanes, [&](auto r, V sums) KVRI_INLINE { v[r][u] = sums; }); });
+        unroll<rows>([&](auto r) KVRI_INLINE { row(r).four(i, v[r]); });
+    }
+    for (; samples - i >= lanes; i += lanes) sum(i, [&](auto r, V sums) KVRI_INLINE { row(r).one(i, sums); });
+    if (i < samples) sum(i, [&](auto r, V sums) KVRI_INLINE { row(r).part(i, sums, samples - i); });
+}
+
 }  // namespace kvri

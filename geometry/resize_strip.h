@@ -283,7 +283,7 @@ private:
             });
             unroll<rows>([&](auto r) KVRI_INLINE { put(r, loadedOnce(toNearest(toFloats(acc[r]) * unit))); });
         };
-        eachVector<rows, uint8_t, Vec<int32_t>>(pixels * C, sum, out);
+        writeRows<rows, Sums>(pixels * C, sum, [&](int r) KVRI_INLINE { return RowOf<uint8_t>(out[r]); });
     }
 #endif
 
@@ -365,20 +365,7 @@ private:
             // Sums are made here, or the compiler makes all of them where they are written, and keeps what was picked on the stack.
             unroll<rows>([&](auto r) KVRI_INLINE { put(r, loadedOnce(acc[r])); });
         };
-        eachVector<rows, T>(samples, sum, out);
-    }
-
-    // sum(s, put) gives put(r, sums from sample s on of row r).
-    template <int rows, class T, class Sum = V, class Sums>
-    KVRI_INLINE static void eachVector(int samples, Sums sum, uint8_t* const* out) {
-        int s = 0;
-        for (; samples - s >= 4 * lanes; s += 4 * lanes) {
-            Sum v[rows][4];
-            unroll<4>([&](auto u) KVRI_INLINE { sum(s + u * lanes, [&](auto r, Sum acc) KVRI_INLINE { v[r][u] = acc; }); });
-            unroll<rows>([&](auto r) KVRI_INLINE { RowOf<T>(out[r]).four(s, v[r]); });
-        }
-        for (; samples - s >= lanes; s += lanes) sum(s, [&](auto r, Sum acc) KVRI_INLINE { RowOf<T>(out[r]).one(s, acc); });
-        if (s < samples) sum(s, [&](auto r, Sum acc) KVRI_INLINE { RowOf<T>(out[r]).part(s, acc, samples - s); });
+        writeRows<rows, V>(samples, sum, [&](int r) KVRI_INLINE { return RowOf<T>(out[r]); });
     }
 
     // Single channel: as many pixels as 16 bytes hold, their taps loaded pixel by pixel and transposed.

@@ -1,22 +1,23 @@
-// geometry/resize.cpp: Resize by weights of single and double precision: linear but of 8u, cubic, Lanczos, super and the
-// antialiased methods.
+// geometry/resize_weights.h: Resize by weights of single and double precision: linear but of 8u, cubic, Lanczos, super and the
+// antialiased methods. The exports of each type of samples are a file.
 //
 // Two passes in the order that the object fixes. The tile is worked on in strips of columns, so that rows between the passes
 // stay in the first-level cache. Rows first: every destination row is summed from source rows and then along. Columns first:
 // source rows are resized along, kept in a ring for as many destination rows as use them, and then summed.
+#pragma once
+
 #include "core/dispatch.h"
 #include "core/fpcontrol.h"
 #include "core/layout.h"
 #include "geometry/resize_apply.h"
 #include "geometry/resize_double.h"
 #include "geometry/resize_halve.h"
-#include "geometry/resize_octave.h"
+#include "geometry/resize_octave_down.h"
 #include "geometry/resize_octave_up.h"
 #include "geometry/resize_strip.h"
 #include "geometry/resize_whole.h"
 
 namespace kvri {
-namespace {
 
 // Rows between the passes: those of a pixel's taps, and what is resized ahead of them.
 constexpr int kRingSlots = 16, kRingBytes = kRingSlots * (kStripSamples * int(sizeof(float)) + 64);
@@ -62,17 +63,6 @@ private:
         return [this, low](int row) { return tile_.source(row, low, pixelBytes); };
     }
 
-    // Columns low to high of a row that begins with column `first` are there; those beyond up to `last` repeat them.
-    template <int numbers, class Number>
-    static void extend(Number* row, int first, int low, int high, int last) {
-        const auto repeat = [&](int column, int from, int to) {
-            const Number* edge = row + ptrdiff_t(column - first) * numbers;
-            for (int x = from; x < to; ++x) std::copy(edge, edge + numbers, row + ptrdiff_t(x - first) * numbers);
-        };
-        repeat(low, first, low);
-        repeat(high, high + 1, last + 1);
-    }
-
     RowsOf<T> destination(int x, int y, int count) const {
         RowsOf<T> rows{{}, count};
         for (int r = 0; r < count; ++r) rows.p[r] = tile_.destination(y + r, x, pixelBytes);
@@ -107,14 +97,14 @@ private:
                 if (F* columns = strip_.sideBySide()) {
                     constexpr int column = Picker<F>::lanes;
                     sumRows<T>(group, samples, LaneColumns<C>(columns + ptrdiff_t(low - first) * column));
-                    extend<column>(columns, first, low, high, last);
+                    repeatEdges<column>(columns, first, low, high, last);
                     strip_.template applySideBySide<C>(destination(x, y, n));
                     continue;
                 }
             SumRows<F> sums{{{}, n}};
             for (int r = 0; r < n; ++r) sums.p[r] = reinterpret_cast<uint8_t*>(rows_ + r * rowStride + ptrdiff_t(low - first) * C);
             sumRows<T>(group, samples, sums);
-            for (int r = 0; r < n; ++r) extend<C>(rows_ + r * rowStride, first, low, high, last);
+            for (int r = 0; r < n; ++r) repeatEdges<C>(rows_ + r * rowStride, first, low, high, last);
             strip_.template apply<C>(rows_, rowStride, destination(x, y, n));
         }
     }
@@ -131,7 +121,7 @@ private:
             n = WholeGroup::rowsWithin(rowTaps_, position(y), std::min(kGroupRows, tile_.size.height - y));
             prefetchSource(y + n, n, low, samples);
             WholeGroup(spec_.y, rowTaps_, position(y), n, sourceFrom(low)).sum(samples, rows + ptrdiff_t(low - first) * C, stride);
-            for (int r = 0; r < n; ++r) extend<C>(rows + r * stride, first, low, high, last);
+            for (int r = 0; r < n; ++r) repeatEdges<C>(rows + r * stride, first, low, high, last);
             strip_.template applyWhole<C>(rows, stride, begin, bits + spec_.y.wholeBits, destination(x, y, n));
         }
         return true;
@@ -170,17 +160,12 @@ private:
 
     // The next rows, before row `end`, as many as share a pass.
     void resizeSourceRows(Ring& ring, int end, int x) {
-        const int first = strip_.first, last = strip_.last, low = tile_.columns(first), high = tile_.columns(last);
         RowsOf<F> out{{}, std::min(end - ring.end, kGroupRows)};
         for (int r = 0; r < out.count; ++r, ++ring.end) {
             out.p[r] = ring.at(ring.end);
             F* to = rows_ + r * rowStride;
-            if (strip_.sparse) {
-                copyTaps(ring.end, x, to);
-            } else {
-                convertRow<T>(tile_.source(ring.end, low, pixelBytes), ptrdiff_t(high - low + 1) * C, RoomyRowOf<F>(to + ptrdiff_t(low - first) * C));
-                extend<C>(to, first, low, high, last);
-            }
+            if (strip_.sparse) copyTaps(ring.end, x, to);
+            else fetchRow<T, C>(tile_, ring.end, strip_.first, strip_.last, to);
         }
         strip_.template apply<C>(rows_, rowStride, out);
     }
@@ -226,13 +211,8 @@ private:
     }
 };
 
-#if defined(__AVX512BW__)
 template <class T>
-constexpr bool kWholeNumbers = sizeof(T) == 1;
-#else
-template <class T>
-constexpr bool kWholeNumbers = false;
-#endif
+constexpr bool kWholeNumbers = sizeof(T) == 1 && kVectorBytes == 64;
 
 // Exactly half or twice the size; false, with nothing done, where it is not or no kernel has as many taps.
 template <class T, int C>
@@ -259,12 +239,6 @@ bool octaveUp(const ResizeTile& tile) {
     }
 }
 
-template <class T, int C>
-bool octave(const ResizeTile& tile) {
-    if constexpr (C > 1 && kVectorBytes == 16) return false;  // a vector is hardly more than a pixel: the general way
-    else return octaveDown<T, C>(tile) || octaveUp<T, C>(tile);
-}
-
 // A function of its own, so that halving needs no large frame.
 template <class T, int C, KvriInterpolationType Method>
 [[gnu::noinline]] void resizeByWeights(const ResizeTile& tile) {
@@ -272,7 +246,7 @@ template <class T, int C, KvriInterpolationType Method>
     if constexpr (!std::is_same_v<T, Kvr64f> && sizeof(T) > 1 && Method == kvrInterpLinear)
         if (doubles(tile)) return Doubler<T, C>(tile).run();
     if constexpr (!std::is_same_v<T, Kvr64f>)
-        if (!(kWholeNumbers<T> && tile.spec.whole()) && octave<T, C>(tile)) return;
+        if (!(kWholeNumbers<T> && tile.spec.whole()) && (octaveDown<T, C>(tile) || octaveUp<T, C>(tile))) return;
     Resizer<T, C>(tile).run();
 }
 
@@ -285,7 +259,7 @@ KvrStatus resize(const T* pSrc, int srcStep, T* pDst, int dstStep, KvriPoint dst
     const auto run = [](const ResizeCall& call) KVRI_INLINE {
         if constexpr (!isDouble && (Method == kvrInterpLinear || Method == kvrInterpSuper))
             if (call.spec.halves()) return Halver<T, L::channels, Ties::Even>::run(call);
-        resizeByWeights<T, L::channels, Method>(call);
+        inTurns(call, resizeByWeights<T, L::channels, Method>);
     };
     return applyResize<L::channels>(accepts, run, pSrc, srcStep, pDst, dstStep, dstOffset, dstSize, border, pSpec, pBuffer);
 }
@@ -301,70 +275,4 @@ constexpr auto super = resize<T, L, kvrInterpSuper>;
 template <class T, class L>
 constexpr auto antialiasing = resize<T, L, 0, true>;
 
-KVRI_EXPORT(kvriResizeLinear_16u_C1R, linear<Kvr16u, C1>);
-KVRI_EXPORT(kvriResizeLinear_16u_C3R, linear<Kvr16u, C3>);
-KVRI_EXPORT(kvriResizeLinear_16u_C4R, linear<Kvr16u, C4>);
-KVRI_EXPORT(kvriResizeLinear_16s_C1R, linear<Kvr16s, C1>);
-KVRI_EXPORT(kvriResizeLinear_16s_C3R, linear<Kvr16s, C3>);
-KVRI_EXPORT(kvriResizeLinear_16s_C4R, linear<Kvr16s, C4>);
-KVRI_EXPORT(kvriResizeLinear_32f_C1R, linear<Kvr32f, C1>);
-KVRI_EXPORT(kvriResizeLinear_32f_C3R, linear<Kvr32f, C3>);
-KVRI_EXPORT(kvriResizeLinear_32f_C4R, linear<Kvr32f, C4>);
-KVRI_EXPORT(kvriResizeLinear_64f_C1R, linear<Kvr64f, C1>);
-KVRI_EXPORT(kvriResizeLinear_64f_C3R, linear<Kvr64f, C3>);
-KVRI_EXPORT(kvriResizeLinear_64f_C4R, linear<Kvr64f, C4>);
-
-KVRI_EXPORT(kvriResizeCubic_8u_C1R, cubic<Kvr8u, C1>);
-KVRI_EXPORT(kvriResizeCubic_8u_C3R, cubic<Kvr8u, C3>);
-KVRI_EXPORT(kvriResizeCubic_8u_C4R, cubic<Kvr8u, C4>);
-KVRI_EXPORT(kvriResizeCubic_16u_C1R, cubic<Kvr16u, C1>);
-KVRI_EXPORT(kvriResizeCubic_16u_C3R, cubic<Kvr16u, C3>);
-KVRI_EXPORT(kvriResizeCubic_16u_C4R, cubic<Kvr16u, C4>);
-KVRI_EXPORT(kvriResizeCubic_16s_C1R, cubic<Kvr16s, C1>);
-KVRI_EXPORT(kvriResizeCubic_16s_C3R, cubic<Kvr16s, C3>);
-KVRI_EXPORT(kvriResizeCubic_16s_C4R, cubic<Kvr16s, C4>);
-KVRI_EXPORT(kvriResizeCubic_32f_C1R, cubic<Kvr32f, C1>);
-KVRI_EXPORT(kvriResizeCubic_32f_C3R, cubic<Kvr32f, C3>);
-KVRI_EXPORT(kvriResizeCubic_32f_C4R, cubic<Kvr32f, C4>);
-
-KVRI_EXPORT(kvriResizeLanczos_8u_C1R, lanczos<Kvr8u, C1>);
-KVRI_EXPORT(kvriResizeLanczos_8u_C3R, lanczos<Kvr8u, C3>);
-KVRI_EXPORT(kvriResizeLanczos_8u_C4R, lanczos<Kvr8u, C4>);
-KVRI_EXPORT(kvriResizeLanczos_16u_C1R, lanczos<Kvr16u, C1>);
-KVRI_EXPORT(kvriResizeLanczos_16u_C3R, lanczos<Kvr16u, C3>);
-KVRI_EXPORT(kvriResizeLanczos_16u_C4R, lanczos<Kvr16u, C4>);
-KVRI_EXPORT(kvriResizeLanczos_16s_C1R, lanczos<Kvr16s, C1>);
-KVRI_EXPORT(kvriResizeLanczos_16s_C3R, lanczos<Kvr16s, C3>);
-KVRI_EXPORT(kvriResizeLanczos_16s_C4R, lanczos<Kvr16s, C4>);
-KVRI_EXPORT(kvriResizeLanczos_32f_C1R, lanczos<Kvr32f, C1>);
-KVRI_EXPORT(kvriResizeLanczos_32f_C3R, lanczos<Kvr32f, C3>);
-KVRI_EXPORT(kvriResizeLanczos_32f_C4R, lanczos<Kvr32f, C4>);
-
-KVRI_EXPORT(kvriResizeSuper_8u_C1R, super<Kvr8u, C1>);
-KVRI_EXPORT(kvriResizeSuper_8u_C3R, super<Kvr8u, C3>);
-KVRI_EXPORT(kvriResizeSuper_8u_C4R, super<Kvr8u, C4>);
-KVRI_EXPORT(kvriResizeSuper_16u_C1R, super<Kvr16u, C1>);
-KVRI_EXPORT(kvriResizeSuper_16u_C3R, super<Kvr16u, C3>);
-KVRI_EXPORT(kvriResizeSuper_16u_C4R, super<Kvr16u, C4>);
-KVRI_EXPORT(kvriResizeSuper_16s_C1R, super<Kvr16s, C1>);
-KVRI_EXPORT(kvriResizeSuper_16s_C3R, super<Kvr16s, C3>);
-KVRI_EXPORT(kvriResizeSuper_16s_C4R, super<Kvr16s, C4>);
-KVRI_EXPORT(kvriResizeSuper_32f_C1R, super<Kvr32f, C1>);
-KVRI_EXPORT(kvriResizeSuper_32f_C3R, super<Kvr32f, C3>);
-KVRI_EXPORT(kvriResizeSuper_32f_C4R, super<Kvr32f, C4>);
-
-KVRI_EXPORT(kvriResizeAntialiasing_8u_C1R, antialiasing<Kvr8u, C1>);
-KVRI_EXPORT(kvriResizeAntialiasing_8u_C3R, antialiasing<Kvr8u, C3>);
-KVRI_EXPORT(kvriResizeAntialiasing_8u_C4R, antialiasing<Kvr8u, C4>);
-KVRI_EXPORT(kvriResizeAntialiasing_16u_C1R, antialiasing<Kvr16u, C1>);
-KVRI_EXPORT(kvriResizeAntialiasing_16u_C3R, antialiasing<Kvr16u, C3>);
-KVRI_EXPORT(kvriResizeAntialiasing_16u_C4R, antialiasing<Kvr16u, C4>);
-KVRI_EXPORT(kvriResizeAntialiasing_16s_C1R, antialiasing<Kvr16s, C1>);
-KVRI_EXPORT(kvriResizeAntialiasing_16s_C3R, antialiasing<Kvr16s, C3>);
-KVRI_EXPORT(kvriResizeAntialiasing_16s_C4R, antialiasing<Kvr16s, C4>);
-KVRI_EXPORT(kvriResizeAntialiasing_32f_C1R, antialiasing<Kvr32f, C1>);
-KVRI_EXPORT(kvriResizeAntialiasing_32f_C3R, antialiasing<Kvr32f, C3>);
-KVRI_EXPORT(kvriResizeAntialiasing_32f_C4R, antialiasing<Kvr32f, C4>);
-
-}  // namespace
 }  // namespace kvri

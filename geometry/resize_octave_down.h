@@ -1,4 +1,4 @@
-// geometry/resize_octave.h: exactly half the size by weights of single precision.
+// geometry/resize_octave_down.h: exactly half the size by weights of single precision.
 //
 // All destination pixels have the same weights, and each source row and column is used at known taps: the passes need no
 // tables, and a group of destination rows takes every source row once. Operations and their order are those of any ratio,
@@ -31,7 +31,6 @@ class OctaveDown {
 
     public:
         float* at(int row, int column) { return plane_[row][column & 1] + before + (column >> 1) * C; }
-        const float* at(int row, int column) const { return const_cast<Planes*>(this)->at(row, column); }
     };
 
     const ResizeTile& tile_;
@@ -62,35 +61,30 @@ private:
         low_ = threes ? low : low - (low - begin) % (block / C);
         first_ = first - low_;
         last_ = first_ + 2 * (pixels - 1) + Taps - 1;
-        columns_ = tile_.columns(first_ + low_ + 2 * (pixels - 1) + Taps - 1) - low_ + 1;
+        columns_ = tile_.columns(low_ + last_) - low_ + 1;
 
-        int source = tile_.spec.firstTap(tile_.spec.y, tile_.offset.y), y = 0;
-        const auto sum = [&](auto from, auto count) {
-            sumRows<from>(Rows<count>(tile_, source, low_, columns_ * C));
-            source += count;
-        };
-        const auto finish = [&](auto count) {
-            sum(std::integral_constant<int, Taps - 2>{}, std::integral_constant<int, 2 * count>{});
-            for (int r = 0; r < count; ++r) {
+        int source = tile_.spec.firstTap(tile_.spec.y, tile_.offset.y);
+        for (int y = 0, n; y < tile_.size.height; y += n) {
+            n = std::min(group, tile_.size.height - y);
+            const int before = y == 0 ? running : 0;  // rows above the tile, which take part in unfinished sums
+            sumRows(Rows(tile_, source, 2 * (before + n), low_, columns_ * C), before, n);
+            source += 2 * (before + n);
+            for (int r = 0; r < n; ++r) {
                 if constexpr (threes) takeApart(r);
                 extend(r);
                 sumColumns(r, RowOf<T>(tile_.destination(y + r, x, pixelBytes)), pixels * C);
             }
-            y += count;
-        };
-        sum(std::integral_constant<int, 0>{}, std::integral_constant<int, Taps - 2>{});
-        while (tile_.size.height - y >= group) finish(std::integral_constant<int, group>{});
-        while (y < tile_.size.height) finish(std::integral_constant<int, 1>{});
+        }
     }
 
     // Source rows from the strip's first column on, and a copy of a last block that is not whole.
-    template <int count>
     struct Rows {
-        const uint8_t* row[count];
-        const uint8_t* rest[count];
-        alignas(64) uint8_t copy[count][(block * sizeof(T) + kVectorBytes - 1) / kVectorBytes * kVectorBytes];
+        static constexpr int most = 2 * (running + group);
+        const uint8_t* row[most];
+        const uint8_t* rest[most];
+        alignas(64) uint8_t copy[most][(block * sizeof(T) + kVectorBytes - 1) / kVectorBytes * kVectorBytes];
 
-        Rows(const ResizeTile& tile, int first, int low, int samples) {
+        Rows(const ResizeTile& tile, int first, int count, int low, int samples) {
             const ptrdiff_t from = samples / block * block * ptrdiff_t(sizeof(T)), bytes = samples % block * ptrdiff_t(sizeof(T));
             for (int j = 0; j < count; ++j) {
                 row[j] = tile.source(first + j, low, pixelBytes);
@@ -101,12 +95,11 @@ private:
         }
     };
 
-    // Adds source rows. The first one is number `from` of the first unfinished row's taps.
-    template <int from, int count>
-    void sumRows(const Rows<count>& rows) {
+    // Finishes n destination rows; `before` ones that precede them are none of the tile's.
+    void sumRows(const Rows& rows, int before, int n) {
         for (int at = 0; at < columns_ * C; at += block) {
             const bool whole = columns_ * C - at >= block;
-            sumBlock<from, count>(whole ? rows.row : rows.rest, whole ? at : 0, at, sums_[at / block]);
+            sumBlock(whole ? rows.row : rows.rest, whole ? at : 0, before, n, at, sums_[at / block]);
         }
     }
 
@@ -145,25 +138,27 @@ private:
         }
     }
 
-    template <int from, int rows>
-    [[gnu::noinline]] void sumBlock(const uint8_t* const* source, ptrdiff_t at, int sample, V (&unfinished)[running][2]) {
-        constexpr int finished = from == 0 ? 0 : rows / 2;
-        V sums[finished + running][2];
-        if constexpr (from > 0) unroll<running>([&](auto r) KVRI_INLINE { sums[r][0] = unfinished[r][0], sums[r][1] = unfinished[r][1]; });
-        unroll<rows>([&](auto j) KVRI_INLINE {
-            V v[2];
-            loadBlock(source[j] + at * ptrdiff_t(sizeof(T)), v);
-            unroll<finished + running>([&](auto r) KVRI_INLINE {
-                constexpr int tap = from + j - 2 * r;
-                if constexpr (tap >= 0 && tap < Taps)
+    // Two source rows finish a sum, add to those of the next rows and begin one. Sums of rows before the tile's begin with
+    // anything, and are not kept.
+    void sumBlock(const uint8_t* const* source, ptrdiff_t at, int before, int n, int sample, V (&unfinished)[running][2]) {
+        V sums[running + 1][2] = {};
+        if (before == 0) unroll<running>([&](auto r) KVRI_INLINE { sums[r][0] = unfinished[r][0], sums[r][1] = unfinished[r][1]; });
+        for (int row = -before; row < n; ++row, source += 2) {
+            unroll<2>([&](auto j) KVRI_INLINE {
+                V v[2];
+                loadBlock(source[j] + at * ptrdiff_t(sizeof(T)), v);
+                unroll<running + 1>([&](auto r) KVRI_INLINE {
+                    constexpr int tap = Taps - 2 + j - 2 * r;
                     unroll<2>([&](auto u) KVRI_INLINE {
                         const V product = v[u] * across_[tap];
                         sums[r][u] = loadedOnce(tap == 0 ? product : sums[r][u] + product);  // in this order: else registers run out
                     });
-                if constexpr (tap == Taps - 1) storeBlock(r, sample, sums[r]);
+                });
             });
-        });
-        unroll<running>([&](auto r) KVRI_INLINE { unfinished[r][0] = sums[finished + r][0], unfinished[r][1] = sums[finished + r][1]; });
+            if (row >= 0) storeBlock(row, sample, sums[0]);
+            unroll<running>([&](auto r) KVRI_INLINE { sums[r][0] = sums[r + 1][0], sums[r][1] = sums[r + 1][1]; });
+        }
+        unroll<running>([&](auto r) KVRI_INLINE { unfinished[r][0] = sums[r][0], unfinished[r][1] = sums[r][1]; });
     }
 
     // Columns that are not there repeat the first or the last one.
@@ -172,25 +167,18 @@ private:
         for (int i = columns_; i <= last_; ++i) std::copy_n(planes_.at(row, columns_ - 1), C, planes_.at(row, i));
     }
 
-    void sumColumns(int r, RowOf<T> out, int samples) const {
+    void sumColumns(int r, RowOf<T> out, int samples) {
         const float* tap[Taps];
         for (int t = 0; t < Taps; ++t) tap[t] = planes_.at(r, first_ + t);
-        const auto sum = [&](int i) KVRI_INLINE {
+        const auto sum = [&](ptrdiff_t i, auto put) KVRI_INLINE {
             V acc;
             unroll<Taps>([&](auto t) KVRI_INLINE {
                 const V product = load<V>(tap[t] + i) * along_[t];
                 acc = t == 0 ? product : acc + product;
             });
-            return acc;
+            put(std::integral_constant<int, 0>{}, acc);
         };
-        int i = 0;
-        for (; samples - i >= 4 * lanes; i += 4 * lanes) {
-            V v[4];
-            unroll<4>([&](auto u) KVRI_INLINE { v[u] = sum(i + u * lanes); });
-            out.four(i, v);
-        }
-        for (; samples - i >= lanes; i += lanes) out.one(i, sum(i));
-        if (i < samples) out.part(i, sum(i), samples - i);
+        writeRows<1, V>(samples, sum, [&](int) KVRI_INLINE { return out; });
     }
 };
 
