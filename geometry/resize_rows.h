@@ -45,23 +45,24 @@ public:
 template <class F>
 class RowGroup {
     uint8_t used_[kMostSources];  // bit r: by destination row r
-    F weight_[kMostSources][kGroupRows];
     const uint8_t* row_[kMostSources];
+    const F* weights_[kGroupRows];
+    int begin_[kGroupRows];  // the first source row, counted from the group's
 
 public:
     int first, sources;
 
     // Destination rows from `position` on, of which `taps` taps from tap `from` on are summed.
     RowGroup(const TapsOf<F>& y, int position, int rows, int from, int taps) : first(y.first(position) + from) {
-        sources = y.first(position + rows - 1) + from + taps - first;
-        std::fill_n(used_, sources, uint8_t(0));
         for (int r = 0; r < rows; ++r) {
-            const int begin = y.first(position + r) + from - first;
-            const F* weight = y.weights(position + r) + from;
-            for (int t = 0; t < taps; ++t) {
-                used_[begin + t] |= uint8_t(1 << r);
-                weight_[begin + t][r] = weight[t];
-            }
+            begin_[r] = y.first(position + r) + from - first;
+            weights_[r] = y.weights(position + r) + from;
+        }
+        sources = begin_[rows - 1] + taps;
+        for (int j = 0, low = 0, high = 0; j < sources; ++j) {  // rows low to high - 1 use source row j
+            while (high < rows && begin_[high] <= j) ++high;
+            while (low < high && begin_[low] + taps <= j) ++low;
+            used_[j] = uint8_t((1 << high) - (1 << low));
         }
     }
     RowGroup(const TapsOf<F>& y, int position, int rows) : RowGroup(y, position, rows, 0, y.taps) {}
@@ -75,7 +76,7 @@ public:
 
     const uint8_t* row(int j) const { return row_[j]; }
     int used(int j) const { return used_[j]; }
-    F weight(int j, int r) const { return weight_[j][r]; }
+    F weight(int j, int r) const { return weights_[r][j - begin_[r]]; }
 };
 
 // What a sum begins with: a number that leaves any first product as it is.

@@ -17,7 +17,7 @@ inline int lessThanWhole(const ResizeAxis& a) { return 128 << a.wholeBits; }
 class WholeGroup {
     static constexpr int kMostPairs = 64;
 
-    uint8_t used_[kMostPairs];
+    uint64_t used_[kGroupRows] = {};        // bit j: pair j, by this destination row
     int32_t pair_[kMostPairs][kGroupRows];  // of bytes, twice
     const uint8_t* row_[kMostPairs + 1];
     int rows_, sources_;
@@ -28,14 +28,13 @@ public:
     WholeGroup(const ResizeAxis& y, const TapsOf<float>& of, int position, int rows, RowAt rowAt) : rows_(rows), begin_(uint16_t(-lessThanWhole(y))) {
         const int first = of.first(position), end = of.first(position + rows - 1) + y.taps;
         sources_ = end - first;
-        std::fill_n(used_, sources_, uint8_t(0));
         for (int j = 0; j <= sources_; ++j) row_[j] = rowAt(std::min(first + j, end - 1));
         for (int r = 0; r < rows; ++r) {
             const int begin = of.first(position + r) - first;
             uint16_t pair[kWholeTaps / 2];
             wholePairs(of.weights(position + r), y, pair);
             for (int t = 0; t < y.taps; t += 2) {
-                used_[begin + t] |= uint8_t(1 << r);
+                used_[r] |= uint64_t(1) << (begin + t);
                 pair_[begin + t][r] = int32_t(pair[t / 2] * 0x10001u);
             }
         }
@@ -65,12 +64,10 @@ private:
         Words low[kGroupRows], high[kGroupRows];
         unroll<kGroupRows>([&](auto r) KVRI_INLINE { low[r] = high[r] = splat<Words>(begin_); });
         for (int j = 0; j < sources_; ++j) {
-            const int used = used_[j];
-            if (used == 0) continue;
             const auto a = loadedOnce(loadFrom(row_[j] + i)), b = loadedOnce(loadFrom(row_[j + 1] + i));
             const auto lowPairs = zipLow<1>(a, b), highPairs = zipHigh<1>(a, b);
             unroll<kGroupRows>([&](auto r) KVRI_INLINE {
-                if (!(used & 1 << r)) return;
+                if (!(used_[r] >> j & 1)) return;
                 const auto weights = (Bytes<>)splat<Vec<int32_t>>(pair_[j][r]);
                 low[r] += (Words)multiplyPairsOfBytes(lowPairs, weights);
                 high[r] += (Words)multiplyPairsOfBytes(highPairs, weights);
