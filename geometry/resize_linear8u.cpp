@@ -235,8 +235,8 @@ void copyRows(const ResizeCall& call) {
 
 template <int C>
 [[gnu::noinline]] void resizeOther(const ResizeTile& tile) {
-    if (!tile.spec.doubles() || tile.size.width * C < kVectorBytes) resizeStrips<C>(tile);
-    else if (ColumnDoubler<C>::takes(tile)) doubleSize<ColumnDoubler<C>>(tile);
+    if (!tile.spec.doubles() || tile.size.width * C < kVectorBytes) inTurns(tile, resizeStrips<C>);
+    else if (ColumnDoubler<C>::takes(tile)) inTurns(tile, doubleSize<ColumnDoubler<C>>);
     else doubleSize<LinearDoubler<C>>(tile);
 }
 
@@ -247,7 +247,7 @@ KvrStatus linear(const Kvr8u* pSrc, int srcStep, Kvr8u* pDst, int dstStep, KvriP
     const auto run = [](const ResizeCall& call) KVRI_INLINE {
         if (call.spec.halves()) Halver<Kvr8u, L::channels, Ties::Up>::run(call);
         else if (call.spec.keeps()) copyRows<L::channels>(call);
-        else inTurns(call, resizeOther<L::channels>);
+        else resizeOther<L::channels>(call);
     };
     return applyResize<L::channels>(accepts, run, pSrc, srcStep, pDst, dstStep, dstOffset, dstSize, border, pSpec, pBuffer);
 }
