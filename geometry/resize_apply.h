@@ -41,11 +41,6 @@ struct Readable {
     int operator()(int position) const { return std::clamp(position, low, high); }
 };
 
-// A strip's rows lie too far apart for the processor to foresee them.
-inline void prefetch(const uint8_t* p, ptrdiff_t bytes) {
-    for (ptrdiff_t i = 0; i < bytes; i += 64) __builtin_prefetch(p + i);
-}
-
 // A checked call, its tile clipped.
 struct ResizeCall {
     const ResizeSpec& spec;
@@ -78,11 +73,26 @@ struct ResizeCall {
         const int width = size.width;
         return width > most ? (width + width / most) / (width / most + 1) : width;
     }
-    // For pixels x to x + n - 1 to be written some rows later.
-    void prefetchDestination(int y, int x, int n, ptrdiff_t pixelBytes) const {
-        if (y < size.height && !streams) prefetch(destination(y, x, pixelBytes), n * pixelBytes);
-    }
 };
+
+// Small tiles of a large image are likely in no near cache, and their rows are too short to be foreseen. (No builtins: the
+// compiler drops calls of functions that do nothing but prefetch.)
+[[gnu::noinline]] inline void prefetchSmallTile(const ResizeCall& call, ptrdiff_t pixelBytes) {
+    constexpr int mostOfRow = 256, mostOfTile = 8192, largePixels = 0x80000;
+    const ResizeSpec& spec = call.spec;
+    const KvriSize size = call.size;
+    const ptrdiff_t row = size.width * pixelBytes;
+    if (row > mostOfRow || row * size.height > mostOfTile || int64_t(spec.x.destination) * spec.y.destination < largePixels) return;
+    const auto eachLine = [](auto* first, ptrdiff_t step, ptrdiff_t bytes, int rows, auto prefetch) KVRI_INLINE {
+        for (int y = 0; y < rows; ++y)
+            for (ptrdiff_t i = 0; i < bytes; i += 64) prefetch(first[y * step + i]);
+    };
+    eachLine(call.dst, call.dstStep, row, size.height, [](uint8_t& line) KVRI_INLINE { asm volatile("prefetchw %0" : : "m"(line)); });
+    const ptrdiff_t sourceRow = ptrdiff_t(spec.x.ratio() * double(row));
+    const int sourceRows = int(spec.y.ratio() * size.height);
+    if (sourceRow <= mostOfRow && sourceRow * sourceRows <= mostOfTile)
+        eachLine(call.src, call.srcStep, sourceRow, sourceRows, [](const uint8_t& line) KVRI_INLINE { asm volatile("prefetcht0 %0" : : "m"(line)); });
+}
 
 // And what of its source may be read. Ways of resizing that need not know take the call.
 struct ResizeTile : ResizeCall {
@@ -135,8 +145,10 @@ KvrStatus applyResize(const Accepts& accepts, Run run, const T* pSrc, int srcSte
     if (KvrStatus e = firstError(hasPixels(dstSize), insideDestination(spec, dstOffset), accepts(spec), borderSupported(border))) return e;
     const KvriSize size = clipped(spec, dstOffset, dstSize);
     const bool streams = exceedsCache(size, Held * pixelBytes);
-    run(ResizeCall{spec, reinterpret_cast<const uint8_t*>(pSrc), srcStep, reinterpret_cast<uint8_t*>(pDst), dstStep, dstOffset, size, border,
-                   pBuffer, streams, farRows(spec, size.height, srcStep, dstStep)});
+    const ResizeCall call{spec, reinterpret_cast<const uint8_t*>(pSrc), srcStep, reinterpret_cast<uint8_t*>(pDst), dstStep, dstOffset, size,
+                          border, pBuffer, streams, farRows(spec, size.height, srcStep, dstStep)};
+    prefetchSmallTile(call, pixelBytes);
+    run(call);
     if (streams) fenceStreams();
     return withinDestination(spec, dstSize);
 }

@@ -92,7 +92,6 @@ private:
             n = rowTaps_.rowsWithin(position(y), std::min(kGroupRows, tile_.size.height - y), kMostSources);
             RowGroup<F> group(rowTaps_, position(y), n);
             group.setRows(sourceFrom(low));
-            prefetchSource(y + n, n, low, samples * ptrdiff_t(sizeof(T)));
             if constexpr (C > 1 && sizeof(F) == 4)
                 if (F* columns = strip_.sideBySide()) {
                     constexpr int column = Picker<F>::lanes;
@@ -119,7 +118,6 @@ private:
         const int bits = spec_.x.wholeBits, begin = lessThanWhole(spec_.y) << bits;
         for (int y = 0, n; y < tile_.size.height; y += n) {
             n = WholeGroup::rowsWithin(rowTaps_, position(y), std::min(kGroupRows, tile_.size.height - y));
-            prefetchSource(y + n, n, low, samples);
             WholeGroup(spec_.y, rowTaps_, position(y), n, sourceFrom(low)).sum(samples, rows + ptrdiff_t(low - first) * C, stride);
             for (int r = 0; r < n; ++r) repeatEdges<C>(rows + r * stride, first, low, high, last);
             strip_.template applyWhole<C>(rows, stride, begin, bits + spec_.y.wholeBits, destination(x, y, n));
@@ -127,13 +125,6 @@ private:
         return true;
     }
 #endif
-
-    // Source rows that n destination rows from y on use, and those before y do not.
-    void prefetchSource(int y, int n, int low, ptrdiff_t bytes) const {
-        const int end = std::min(y + n, tile_.size.height), taps = std::min(spec_.y.taps, kMostSources);
-        for (int row = firstTap(y - 1) + taps; y < end; ++y)
-            for (row = std::max(row, firstTap(y)); row < firstTap(y) + taps; ++row) prefetch(tile_.source(row, low, pixelBytes), bytes);
-    }
 
     void columnsFirst(int x) {
         const int taps = spec_.y.taps, end = firstTap(tile_.size.height - 1) + taps;
@@ -148,7 +139,6 @@ private:
             do rows[n] = {ring.from(firstTap(y + n)), weights(y + n)};
             while (++n < kBandRows && y + n < tile_.size.height && firstTap(y + n) + taps <= ring.end);
             const RowsOf<T> out = destination(x, y, n);
-            for (int r = 0; r < n; ++r) tile_.prefetchDestination(y + n + r, x, strip_.pixels, pixelBytes);
             if (tile_.streams && inSamples(out)) sumTaps<StreamedRowOf<T>>(rows, n, taps, samples, out.p.data());
             else sumTaps<RowOf<T>>(rows, n, taps, samples, out.p.data());
         }
