@@ -56,12 +56,13 @@ struct ResizeCall {
     bool far;      // rows lie in more pages than the processor has at hand
 
     uint8_t* destination(int y, int x, ptrdiff_t pixelBytes) const { return dst + y * dstStep + x * pixelBytes; }
-    ResizeCall rows(int y, int height) const {
-        ResizeCall part = *this;
-        part.offset.y += y, part.size.height = height;
-        part.src += (spec.origin(spec.y, part.offset.y) - spec.origin(spec.y, offset.y)) * srcStep;
-        part.dst += y * dstStep;
-        return part;
+    // Destination rows y to y + height - 1 of it.
+    ResizeCall part(int y, int height) const {
+        ResizeCall call = *this;
+        call.offset.y += y, call.size.height = height;
+        call.src += (spec.origin(spec.y, call.offset.y) - spec.origin(spec.y, offset.y)) * srcStep;
+        call.dst += y * dstStep;
+        return call;
     }
     // Whether vectors may be streamed from byte `begin` of each destination row on.
     template <int W = kVectorBytes>
@@ -125,7 +126,7 @@ template <class Run>
 void inTurns(const ResizeCall& call, Run run) {
     constexpr int turn = 128;
     const int height = call.size.height, rows = call.far ? turn : height;
-    for (int y = 0; y < height; y += rows) run(call.rows(y, std::min(rows, height - y)));
+    for (int y = 0; y < height; y += rows) run(call.part(y, std::min(rows, height - y)));
 }
 
 inline bool farRows(const ResizeSpec& spec, int height, int srcStep, int dstStep) {

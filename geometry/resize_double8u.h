@@ -67,7 +67,6 @@ private:
             columns.copy(columns.rows[copied], sourceRow(copied));
         };
         const int column = x - tile_.offset.x + before / C;
-        const bool aligned = ((reinterpret_cast<uintptr_t>(tile_.destination(0, column, C)) | uintptr_t(tile_.dstStep)) & (kVectorBytes - 1)) == 0;
         // Source rows i - 1 and i give destination rows 2i - 1 and 2i.
         const auto walk = [&](auto streamed) KVRI_INLINE {
             for (int i = (begin + 1) / 2; i <= (begin + height) / 2; ++i) {
@@ -92,7 +91,7 @@ private:
         for (int i = 0; i < ahead; ++i) copyNext();
         ++summed;
         sumAlong(sourceRow(summed), samples, sums_[summed & 1]);
-        if (tile_.streams && aligned) walk(std::true_type{});
+        if (tile_.streamsVectors(ptrdiff_t(column) * C)) walk(std::true_type{});
         else walk(std::false_type{});
     }
 

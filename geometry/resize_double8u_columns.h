@@ -110,32 +110,20 @@ private:
         unroll<2>([&](auto h) KVRI_INLINE { to.control[h] = (Bytes<>)((left[h] - begin) | (right[h] - begin) << 8); });
     }
 
-    struct Rows {
-        uint8_t* first;
-        ptrdiff_t step;
-        bool streamed;
-    };
-
     // Many rows at a time only where they are not all in the same set of the first-level cache, and where they are near.
     int pairsAtATime() const {
         const bool crowded = tile_.dstStep % 2048 == 0, near = ptrdiff_t(tile_.size.width) * tile_.size.height * C <= nearBytes;
         return near && !crowded ? mostPairs : 4;
     }
 
-    // Rows side by side are streamed later than rows one by one: where three halves of the destination exceed the cache.
-    bool streams(int begin) const {
-        return tile_.streamsVectors(begin) && exceedsCache({tile_.size.width, tile_.size.height + tile_.size.height / 2}, C);
-    }
-
     void bands(const SourceColumn& source, int x) const {
         const int begin = tile_.offset.y, end = begin + tile_.size.height, atATime = pairsAtATime();
-        const bool streamed = streams(x * C);
         // Source rows i - 1 and i give destination rows 2i - 1 and 2i.
         for (int i = (begin + 1) / 2; 2 * i - 1 < end; i += atATime) {
             const uint8_t* row[mostPairs + 1];
             const int pairs = std::min(atATime, end / 2 - i + 1), firstRow = 2 * i - 1 - begin;
             for (int k = 0; k <= pairs; ++k) row[k] = source[tile_.rows(i - 1 + k)];
-            const Rows to{tile_.destination(firstRow, x, C), tile_.dstStep, streamed};
+            uint8_t* to = tile_.destination(firstRow, x, C);
             for (int group = 0; group < groups(); ++group) {
                 if (bytes_ >= kVectorBytes) band(group, row, pairs, firstRow, to, [](const uint8_t* p, ptrdiff_t) KVRI_INLINE { return load<Bytes<>>(p); });
                 else band(group, row, pairs, firstRow, to, [](const uint8_t* p, ptrdiff_t n) KVRI_INLINE { return loadPart<Bytes<>>(p, n); });
@@ -145,15 +133,14 @@ private:
 
     // firstRow: that of the first pair's upper result in the tile, or -1.
     template <class Load>
-    KVRI_INLINE void band(int group, const uint8_t* const* row, int pairs, int firstRow, const Rows& rows, Load loadWindow) const {
+    KVRI_INLINE void band(int group, const uint8_t* const* row, int pairs, int firstRow, uint8_t* to, Load loadWindow) const {
         const Vector* tables = vector_ + group * perGroup;
         [[maybe_unused]] Vector held;  // the tables, where there are registers for them
         if constexpr (perGroup == 1) {
             unroll<2>([&](auto h) KVRI_INLINE { held.control[h] = loadedOnce(tables->control[h]), held.weights[h] = loadedOnce(tables->weights[h]); });
             held.words = loadedOnce(tables->words), held.base = tables->base;
         }
-        const ptrdiff_t step = rows.step;
-        const bool streamed = rows.streamed && start(group) % kVectorBytes == 0;
+        const ptrdiff_t step = tile_.dstStep;
         const int height = tile_.size.height;
         struct Sums {
             Words half[2];
@@ -171,13 +158,11 @@ private:
         };
         const auto put = [&](uint8_t* p, const Sums& near, const Sums& both) KVRI_INLINE {
             const auto half = [&](int h) KVRI_INLINE { return (Numbers)((near.half[h] + near.half[h] + both.half[h]) >> 4); };
-            const Bytes<> result = narrow<uint8_t>(half(0), half(1));
-            if (streamed) stream(p, result);
-            else store(p, result);
+            store(p, narrow<uint8_t>(half(0), half(1)));
         };
         Sums above[perGroup];
         unroll<perGroup>([&](auto i) KVRI_INLINE { above[i] = sumsOf(row[0], i); });
-        uint8_t* to = rows.first + start(group);
+        to += start(group);
         for (int k = 0; k < pairs; ++k, to += 2 * step) {
             const int at = firstRow + 2 * k;
             Sums below[perGroup], both[perGroup];
